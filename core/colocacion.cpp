@@ -1,0 +1,136 @@
+// Set-up: the members of the control arrays, the board's pictures, the starting position, and the
+// beginning of a game.
+#include <utility>
+
+#include "core/juego.h"
+
+namespace corvanda {
+
+namespace {
+
+/// The hourglass for as long as a procedure runs.
+class Reloj_De_Arena {
+  public:
+    explicit Reloj_De_Arena(MousePointer& puntero) : puntero(puntero) {
+        puntero.SetShape(PointerShape::Hourglass);
+    }
+    ~Reloj_De_Arena() { puntero.SetShape(PointerShape::Default); }
+    Reloj_De_Arena(const Reloj_De_Arena&) = delete;
+    Reloj_De_Arena& operator=(const Reloj_De_Arena&) = delete;
+
+  private:
+    MousePointer& puntero;
+};
+
+}  // namespace
+
+Juego::Juego(Partida& partida, const Puertos& puertos, Oponente* computadora)
+    : partida(partida), puertos(puertos), computadora(computadora) {}
+
+void Juego::Cargar_Controles() {
+    const auto crear = [this](Arreglo nombre, Integer i) {
+        Imagen({nombre, i}) = Imagen({nombre, 0});
+        Mostrar({nombre, i}, true);
+        Al_Frente({nombre, i});
+    };
+    for (Integer i = 2; i < FICHAS; ++i) {
+        crear(Arreglo::Cafe, i);
+        crear(Arreglo::Blanca, i);
+    }
+}
+
+void Juego::Vestir_Tablero() {
+    const auto copiar = [this](Integer desde, Integer hasta, Integer muestra) {
+        for (Integer i = desde; i <= hasta; i = static_cast<Integer>(i + 2)) {
+            Dar_Estampa({Arreglo::Triangle, i}, Imagen({Arreglo::Triangle, muestra}).Shown);
+        }
+    };
+    Dar_Estampa({Arreglo::Tablero, 1}, partida.Tablero[0].Shown);
+    copiar(15, 23, 13);
+    copiar(14, 22, 12);
+    copiar(1, 11, 1);
+    copiar(2, 10, 0);
+
+    const Image& ultimo = partida.Triangle[23];
+    const Single height = ultimo.Top + ultimo.Height - partida.Tablero[0].Top / 2;
+    const Single width = partida.Triangle[5].Left;
+    Ajustar({Arreglo::Tablero, 0}, width, height);
+    Ajustar({Arreglo::Tablero, 1}, width, height);
+}
+
+Single Juego::Altura_Base(Integer punto) const {
+    if (punto < 12) return partida.Tablero[0].Top + 120;
+    const Image& ultimo = partida.Triangle[23];
+    return ultimo.Top + ultimo.Height - partida.Cafe[0].Height - 120;
+}
+
+void Juego::Despejar() {
+    partida.Puntos = {};
+    partida.Blanca_En_Casa = False;
+    partida.Cafe_En_Casa = False;
+    partida.Altura_Cafe = 0;
+    partida.Altura_Blanca = 0;
+    for (Integer p = 0; p < PUNTOS; ++p) Punto_En(partida, p).Y = Altura_Base(p);
+    for (Pila& pila : partida.LST) pila.Vaciar();
+    for (Integer i = 0; i < FICHAS; ++i) {
+        Habilitar({Arreglo::Blanca, i}, true);
+        Habilitar({Arreglo::Cafe, i}, true);
+    }
+}
+
+void Juego::Colocar_Fichas() {
+    partida.Origen = ORIGEN_COLOCACION;
+    Mover(BLANCA, 0, 0);
+    Mover(BLANCA, 1, 0);
+    Mover(CAFE, 0, 23);
+    Mover(CAFE, 1, 23);
+    for (Integer i = 2; i <= 6; ++i) {
+        const auto otra = static_cast<Integer>(i + 5);
+        Mover(CAFE, i, 5);
+        Mover(CAFE, otra, 12);
+        Mover(BLANCA, i, 18);
+        Mover(BLANCA, otra, 11);
+    }
+    for (Integer i = 12; i <= 14; ++i) {
+        Mover(CAFE, i, 7);
+        Mover(BLANCA, i, 16);
+    }
+    partida.Origen = 0;
+}
+
+void Juego::Ordenar() {
+    const Reloj_De_Arena reloj(puertos.Puntero);
+    vigencia.Empezar_Otra();
+    puertos.Tablero.Cancelar_Arrastre();
+    Despejar();
+    Colocar_Fichas();
+    for (Integer i = 0; i < 2; ++i) {
+        Mostrar({Arreglo::Adios, i}, false);
+        Mostrar({Arreglo::Dado, i}, false);
+    }
+}
+
+void Juego::Empezar(Byte nivel, Volado& volado) {
+    peticion = Peticion{nivel, &volado};
+    vigencia.Empezar_Otra();
+    Atender_Peticiones();
+}
+
+// Games begin here one after the other, never one inside another: what a new game interrupts
+// unwinds first, so that the stack does not grow however often somebody changes their mind.
+void Juego::Atender_Peticiones() {
+    if (profundidad > 0 || atendiendo) return;
+    const Mientras atiende(atendiendo);
+    while (peticion && !Cerrando()) Abrir(*std::exchange(peticion, std::nullopt));
+}
+
+void Juego::Abrir(const Peticion& nueva) {
+    partida.Nivel = nueva.nivel;
+    Ordenar();
+    sin_entrada = true;
+    const auto testigo = vigencia.Tomar();
+    nueva.volado->Mostrar();
+    if (vigencia.Sigue(testigo)) Tirar_Dados();
+}
+
+}  // namespace corvanda

@@ -1,0 +1,100 @@
+// Bearing off, and the end of a game.
+#include <cstdlib>
+
+#include "core/juego.h"
+#include "runtime/conversion.h"
+
+namespace corvanda {
+
+namespace {
+
+constexpr Integer NINGUN_DADO = -1;
+
+Integer Bandeja_De(Integer color) {
+    return color == BLANCA ? 1 : 0;
+}
+
+Integer Pila_De_Bandeja(Integer color) {
+    return color == BLANCA ? BANDEJA_BLANCA : BANDEJA_CAFE;
+}
+
+}  // namespace
+
+void Juego::Adios_DragDrop(Integer Index, Control Source) {
+    if (Entrada_Cerrada() || !Es_Tope_De_Origen(Source)) return;
+    const bool propia = Index == Bandeja_De(partida.Turno);
+    const auto fuera = static_cast<Integer>(Index == 1 ? PUNTOS : -1);
+    const auto distancia = static_cast<Integer>(std::abs(partida.Origen - fuera));
+    const Integer dado =
+        propia && Es_Punto(partida.Origen) ? Dado_Que_Saca(distancia) : NINGUN_DADO;
+    if (dado == NINGUN_DADO) {
+        Beeper();
+        return;
+    }
+    Gastar_Dado(dado);
+    if (partida.Sonido != False) Sonar("Pop2.Wav");
+    Llevar_A_Bandeja(Source.Index);
+    Sacar_De_Origen();
+    Pila_En(partida, Pila_De_Bandeja(partida.Turno)).Poner(Source.Index);
+
+    if (Pila_En(partida, BANDEJA_BLANCA).Cuenta() == FICHAS) {
+        Terminar("The player with White Chips Won");
+    } else if (Pila_En(partida, BANDEJA_CAFE).Cuenta() == FICHAS) {
+        Terminar("The player with Brown Chips won");
+    } else if (!partida.Dado[0].Visible && !partida.Dado[1].Visible) {
+        Entregar_Turno();
+    }
+}
+
+// The die that pays: an exact one, the first before the second; else the larger of those shown,
+// when it is large enough and no chip of either side stands farther back in the home board.
+Integer Juego::Dado_Que_Saca(Integer distancia) const {
+    const bool primero = partida.Dado[0].Visible;
+    const bool segundo = partida.Dado[1].Visible;
+    if (primero && distancia == partida.Dado1) return 0;
+    if (segundo && distancia == partida.Dado2) return 1;
+    if (primero && partida.Dado1 >= partida.Dado2) {
+        return distancia > partida.Dado1 || Hay_Ficha_Atras() ? NINGUN_DADO : 0;
+    }
+    if (segundo && partida.Dado2 > partida.Dado1) {
+        return distancia > partida.Dado2 || Hay_Ficha_Atras() ? NINGUN_DADO : 1;
+    }
+    return NINGUN_DADO;
+}
+
+bool Juego::Hay_Ficha_Atras() const {
+    const bool blanca = partida.Turno == BLANCA;
+    const int desde = blanca ? 18 : partida.Origen + 1;
+    const int hasta = blanca ? partida.Origen - 1 : 5;
+    for (int i = desde; i <= hasta; ++i) {
+        const auto punto = static_cast<Integer>(i);
+        if (Pila_En(partida, punto).Cuenta() > 0 && Punto_En(partida, punto).Owner != NADIE) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void Juego::Llevar_A_Bandeja(Integer ficha) {
+    const bool blanca = partida.Turno == BLANCA;
+    const Control control{blanca ? Arreglo::Blanca : Arreglo::Cafe, ficha};
+    const Image& bandeja = Imagen({Arreglo::Adios, Bandeja_De(partida.Turno)});
+    const Image& imagen = Imagen(control);
+    Integer& altura = blanca ? partida.Altura_Blanca : partida.Altura_Cafe;
+
+    Punto_En(partida, partida.Origen).Y = imagen.Top;
+    Colocar(control, bandeja.Left + (bandeja.Width - imagen.Width) / 2, bandeja.Top + altura);
+    altura = CInt(altura + (bandeja.Height - imagen.Height) / 15);
+    Habilitar(control, false);
+}
+
+void Juego::Terminar(const std::string& anuncio) {
+    const auto testigo = vigencia.Tomar();
+    Sonar("applaus.Wav");
+    Avisar(anuncio, style::Exclamation, "¡ You Win !");
+    if (!vigencia.Sigue(testigo)) return;
+    partida.Jugando = False;
+    partida.Turno = BLANCA;
+}
+
+}  // namespace corvanda

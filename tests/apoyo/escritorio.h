@@ -1,0 +1,103 @@
+// A desktop that only writes a journal: every port of the game in one object. What the game says
+// (boxes, sounds, pointer, drags) is read from the journal; what it asks for (dice, answers) must
+// have been queued, and a question that nobody prepared for fails the test.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "core/juego.h"
+#include "runtime/random.h"
+
+namespace corvanda::pruebas {
+
+class Escritorio final : public MessageBoxes,
+                         public EventLoop,
+                         public MousePointer,
+                         public RandomNumbers,
+                         public WaveOut,
+                         public SettingsStore,
+                         public HelpViewer,
+                         public App,
+                         public Pantalla {
+  public:
+    using Accion = std::function<void()>;
+
+    /// The journal, one line each; see the port members below for the forms.
+    std::vector<std::string> diario;
+
+    /// The journal since the last call.
+    std::vector<std::string> Leer();
+
+    /// The next box is answered with this button; `mientras` runs while it is open.
+    void Contestar(Integer boton = button::Ok, Accion mientras = {});
+    /// Every box is answered with Ok, for random games.
+    void Contestar_Siempre() { contesta_siempre = true; }
+    bool Respuestas_Gastadas() const { return respuestas.empty(); }
+
+    /// The next throws of dice give these faces.
+    void Dados(std::initializer_list<int> caras);
+    /// The next random numbers themselves.
+    void Azares(std::initializer_list<double> numeros);
+    /// All further random numbers come from a seeded generator.
+    void Sembrar(std::uint32_t semilla) { generador.emplace(semilla); }
+
+    /// Runs an action in the n-th pass of the event loop from now (1 is the next).
+    void En_El_Pase(int n, Accion accion);
+    int Pases() const { return pases; }
+    int Pases_De_Pausa() const { return pases_de_pausa; }
+
+    /// What stands in the settings store, by application, section and key.
+    std::map<std::tuple<std::string, std::string, std::string>, std::string> almacen;
+    std::string fallo_al_guardar;  ///< what Commit answers
+    unsigned dispositivos = 1;     ///< what waveOutGetNumDevs answers
+    std::vector<Control> refrescados;
+
+    Integer MsgBox(const std::string& text, Integer style, const std::string& title) override;
+    void DoEvents() override;
+    void DoEventsPaced() override;
+    void SetShape(PointerShape shape) override;
+    double Rnd() override;
+    void Randomize() override;
+    void sndPlaySound(const std::string& path) override;
+    unsigned waveOutGetNumDevs() override { return dispositivos; }
+    void Beep() override;
+    std::string GetSetting(const std::string& application, const std::string& section,
+                           const std::string& key, const std::string& otherwise) override;
+    void SaveSetting(const std::string& application, const std::string& section,
+                     const std::string& key, const std::string& value) override;
+    std::string Commit() override;
+    void WinHelp(const std::string& file, Integer command, Integer context) override;
+    std::string Path() const override { return "/opt/juegos de mesa/corvanda"; }
+    std::string EXEName() const override { return "corvanda"; }
+    void Refrescar(Control control, const Image& antes) override;
+    void Iniciar_Arrastre(Control ficha) override;
+    void Cancelar_Arrastre() override;
+
+    Puertos Todos() { return {*this, *this, *this, *this, *this, *this, *this}; }
+
+    bool reloj_de_arena = false;  ///< the pointer's shape now
+    Control arrastrada;           ///< the chip being dragged, Ninguno for none
+
+  private:
+    struct Respuesta {
+        Integer boton;
+        Accion mientras;
+    };
+
+    void Correr_Acciones();
+
+    std::deque<Respuesta> respuestas;
+    bool contesta_siempre = false;
+    std::deque<double> azares;
+    std::optional<Random> generador;
+    std::multimap<int, Accion> acciones;
+    int pases = 0;
+    int pases_de_pausa = 0;
+};
+
+}  // namespace corvanda::pruebas
