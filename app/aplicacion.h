@@ -1,0 +1,54 @@
+// The program put together: the state, the desktop's answers to the game, the computer, and the
+// windows over them. The demonstration and the benchmarks of the window build the same.
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+#include "computer/computadora.h"
+#include "core/partida.h"
+#include "desktop/event_loop.h"
+#include "desktop/help_viewer.h"
+#include "desktop/message_box.h"
+#include "desktop/mouse_pointer.h"
+#include "desktop/program_folder.h"
+#include "desktop/settings_file.h"
+#include "desktop/system_close.h"
+#include "desktop/wave_player.h"
+#include "ui/estampas.h"
+#include "ui/frm_principal.h"
+
+namespace corvanda {
+
+class Aplicacion final : public QObject {
+    Q_OBJECT
+
+  public:
+    /// After the QApplication, whose event loop it ends when the program is to end. `azar` must
+    /// outlive it.
+    explicit Aplicacion(RandomNumbers& azar);
+
+    /// Shows the main window.
+    void Empezar();
+
+    FrmPrincipal& Ventana() { return *principal; }
+    const Partida& Estado() const { return partida; }
+
+  private:
+    void Cerrar_Por_El_Sistema();
+
+    Partida partida = Diseno();
+    ProgramFolder programa;
+    QtEventLoop eventos;
+    QtMousePointer puntero;
+    QtMessageBoxes mensajes{puntero};
+    SdlWaveOut sonidos{programa.Path()};
+    SettingsFile almacen;
+    QtHelpViewer ayuda{mensajes, programa.Path(), "Corvanda"};
+    Computadora computadora;
+    Estampas estampas;
+    SystemClose sistema;
+    std::unique_ptr<FrmPrincipal> principal;
+};
+
+}  // namespace corvanda

@@ -1,0 +1,12 @@
+#include <QApplication>
+
+#include "app/aplicacion.h"
+#include "runtime/random.h"
+
+int main(int argc, char** argv) {
+    const QApplication qt(argc, argv);
+    corvanda::Random azar;
+    corvanda::Aplicacion corvanda(azar);
+    corvanda.Empezar();
+    return QApplication::exec();
+}

@@ -1,0 +1,27 @@
+// What the game's dialogs share: a fixed inner size in twips, their colours, and labels and buttons
+// placed by the layout.
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+
+#include "ui/escala.h"
+
+namespace corvanda::dialogos {
+
+/// Inner size in twips, fixed border, light grey ground whatever the desktop's theme is.
+void Preparar(QDialog& dialogo, const Escala& escala, double ancho, double alto);
+
+struct Sitio {
+    double left, top, width, height;  ///< twips
+};
+
+QLabel* Texto(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
+              const Escala& escala, const QFont& letra);
+QPushButton* Boton(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
+                   const Escala& escala);
+/// Colours of a label: its letters and, when valid, the plate behind them.
+void Colorear(QLabel& texto, const QColor& letras, const QColor& placa = {});
+
+}  // namespace corvanda::dialogos

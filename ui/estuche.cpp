@@ -1,0 +1,256 @@
+#include "ui/estuche.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+namespace corvanda {
+
+namespace {
+
+constexpr int REGRESO = 140;      // milliseconds of a refused chip's way back
+constexpr qreal ATENUADA = 0.35;  // what is left of a chip at its place while it is dragged
+
+Integer Boton_De(Qt::MouseButton boton) {
+    switch (boton) {
+        case Qt::LeftButton:
+            return 1;
+        case Qt::RightButton:
+            return 2;
+        case Qt::MiddleButton:
+            return 4;
+        default:
+            return 0;
+    }
+}
+
+bool Es_Ficha_O_Dado(Picture estampa) {
+    return estampa == Picture::Blanca || estampa == Picture::Cafe || estampa >= Picture::Dado1;
+}
+
+}  // namespace
+
+Estuche::Estuche(const Partida& partida, const Escala& escala, Estampas& estampas, QWidget* fondo)
+    : QWidget(fondo), partida(partida), escala(escala), estampas(estampas), flotante(fondo) {
+    setObjectName("Estuche");
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFixedSize(escala.Tamano(ANCHO, ALTO));
+    const int lado = qRound(20 * escala.K());
+    const QPixmap dibujo = estampas.Suelta("mano", lado, devicePixelRatioF());
+    mano = dibujo.isNull() ? QCursor(Qt::OpenHandCursor)
+                           : QCursor(dibujo, lado * 16 / 32, lado * 18 / 32);
+    Preparar_Estampas();
+}
+
+void Estuche::Preparar_Estampas() {
+    std::vector<Estampas::Pedido> pedidos;
+    const qreal ratio = devicePixelRatioF();
+    pedidos.push_back({Picture::Estuche, QSize(qRound(width() * ratio), qRound(height() * ratio))});
+    const auto pedir = [&](const Image& imagen, Picture estampa) {
+        if (estampa != Picture::None) pedidos.push_back({estampa, Pixeles_De(imagen)});
+    };
+    for (const Image& imagen : partida.Tablero) pedir(imagen, imagen.Shown);
+    for (const Image& imagen : partida.Triangle) pedir(imagen, imagen.Shown);
+    pedir(partida.Blanca[0], Picture::Blanca);
+    pedir(partida.Cafe[0], Picture::Cafe);
+    estampas.Preparar(pedidos);
+}
+
+// Chips and dice keep one size, so that each is rendered once and sharp; the others meet their
+// neighbours, so both of their edges are rounded.
+QRectF Estuche::Lugar(const Image& imagen) const {
+    const qreal ratio = devicePixelRatioF();
+    const auto rejilla = [&](double twips) {
+        return std::round(escala.Pixeles(twips) * ratio) / ratio;
+    };
+    const double left = static_cast<double>(imagen.Left);
+    const double top = static_cast<double>(imagen.Top);
+    const QPointF esquina(rejilla(left), rejilla(top));
+    const double width = static_cast<double>(imagen.Width);
+    const double height = static_cast<double>(imagen.Height);
+    if (Es_Ficha_O_Dado(imagen.Shown)) return {esquina, QSizeF(rejilla(width), rejilla(height))};
+    return {esquina, QPointF(rejilla(left + width), rejilla(top + height))};
+}
+
+QSize Estuche::Pixeles_De(const Image& imagen) const {
+    return (Lugar(imagen).size() * devicePixelRatioF()).toSize();
+}
+
+QPixmap Estuche::Estampa_De(const Image& imagen) const {
+    return estampas.De(imagen.Shown, Pixeles_De(imagen), devicePixelRatioF());
+}
+
+Control Estuche::Bajo(QPointF lugar) const {
+    return Control_En(partida, static_cast<Single>(escala.Twips(lugar.x())),
+                      static_cast<Single>(escala.Twips(lugar.y())));
+}
+
+// Painting
+
+void Estuche::paintEvent(QPaintEvent* evento) {
+    QPainter pintor(this);
+    pintor.setClipRegion(evento->region());
+    const qreal ratio = devicePixelRatioF();
+    const QSize entero(qRound(width() * ratio), qRound(height() * ratio));
+    pintor.drawPixmap(QPointF(0, 0), estampas.De(Picture::Estuche, entero, ratio));
+
+    struct Capa {
+        const Image* imagen;
+        Control control;
+    };
+    std::vector<Capa> capas;
+    const QRectF tocado(evento->rect());
+    const auto juntar = [&](const auto& miembros, Arreglo nombre) {
+        for (std::size_t i = 0; i < miembros.size(); ++i) {
+            const Image& imagen = miembros[i];
+            if (!imagen.Visible || imagen.Shown == Picture::None) continue;
+            if (!Lugar(imagen).intersects(tocado)) continue;
+            capas.push_back({&imagen, {nombre, static_cast<Integer>(i)}});
+        }
+    };
+    juntar(partida.Tablero, Arreglo::Tablero);
+    juntar(partida.Triangle, Arreglo::Triangle);
+    juntar(partida.Adios, Arreglo::Adios);
+    juntar(partida.Blanca, Arreglo::Blanca);
+    juntar(partida.Cafe, Arreglo::Cafe);
+    juntar(partida.Dado, Arreglo::Dado);
+    std::sort(capas.begin(), capas.end(), [](const Capa& una, const Capa& otra) {
+        return una.imagen->ZOrder < otra.imagen->ZOrder;
+    });
+    for (const Capa& capa : capas) Pintar(pintor, *capa.imagen, capa.control);
+}
+
+void Estuche::Pintar(QPainter& pintor, const Image& imagen, Control control) const {
+    const bool atenuada = control == oculta;
+    if (atenuada && opacidad_oculta == 0) return;
+    if (atenuada) pintor.setOpacity(opacidad_oculta);
+    pintor.drawPixmap(Lugar(imagen).topLeft(), Estampa_De(imagen));
+    if (atenuada) pintor.setOpacity(1);
+}
+
+void Estuche::Refrescar(Control control, const Image& antes) {
+    const Image& ahora = *Imagen_De(partida, control);
+    update(Lugar(antes).toAlignedRect());
+    update(Lugar(ahora).toAlignedRect());
+    const bool movida = antes.Left != ahora.Left || antes.Top != ahora.Top;
+    if (!movida || !Recibe_Presiones(control.Nombre)) return;
+    if (control == soltando) soltando = {};
+    if (control == oculta) flotante.Desaparecer();
+    if (control == oculta) Mostrar_Oculta();
+    Volar(control, antes);
+}
+
+void Estuche::Ocultar(Control ficha, qreal opacidad) {
+    Mostrar_Oculta();
+    oculta = ficha;
+    opacidad_oculta = opacidad;
+    update(Lugar(*Imagen_De(partida, ficha)).toAlignedRect());
+}
+
+void Estuche::Mostrar_Oculta() {
+    const Control antes = std::exchange(oculta, Control{});
+    const Image* imagen = Imagen_De(partida, antes);
+    if (imagen != nullptr) update(Lugar(*imagen).toAlignedRect());
+}
+
+// The drag
+
+void Estuche::Interrumpir() {
+    Cancelar_Arrastre();
+    Devolver();
+}
+
+void Estuche::hideEvent(QHideEvent* evento) {
+    Interrumpir();
+    QWidget::hideEvent(evento);
+}
+
+void Estuche::mousePressEvent(QMouseEvent* evento) {
+    if (arrastre) return;
+    pulsado = evento->position();
+    pulsada = Bajo(pulsado);
+    if (Recibe_Presiones(pulsada.Nombre)) emit presionada(pulsada, Boton_De(evento->button()));
+}
+
+// The game picks up the top chip of the stack that was pressed, held as if it were the one pressed.
+void Estuche::Iniciar_Arrastre(Control ficha) {
+    const Image* de_la_pulsada = Imagen_De(partida, pulsada);
+    const Image& imagen = *Imagen_De(partida, ficha);
+    const QPointF agarre =
+        pulsado - Lugar(de_la_pulsada != nullptr ? *de_la_pulsada : imagen).topLeft();
+    arrastre = Arrastre{ficha, agarre};
+    flotante.Aparecer(Estampa_De(imagen), pos() + pulsado - agarre);
+    Ocultar(ficha, ATENUADA);
+}
+
+void Estuche::mouseMoveEvent(QMouseEvent* evento) {
+    if (!arrastre) {
+        Actualizar_Puntero(evento->position());
+    } else if (evento->buttons().testFlag(Qt::LeftButton)) {
+        flotante.Llevar(pos() + evento->position() - arrastre->agarre);
+    } else {
+        Cancelar_Arrastre();
+    }
+}
+
+void Estuche::mouseReleaseEvent(QMouseEvent* evento) {
+    if (arrastre && evento->button() == Qt::LeftButton) Soltar(evento->position());
+    Actualizar_Puntero(evento->position());
+}
+
+// What the drop means is the game's to say. It may take the other side's whole turn to return, so
+// the board watches for the chip to move or for a box to open, whichever comes first.
+void Estuche::Soltar(QPointF lugar) {
+    const Control ficha = arrastre->ficha;
+    arrastre.reset();
+    soltando = ficha;
+    const Control destino = rect().contains(lugar.toPoint()) ? Bajo(lugar) : Control{};
+    if (destino.Nombre != Arreglo::Ninguno) emit soltada(destino, ficha);
+    if (soltando == ficha) Devolver();
+}
+
+void Estuche::Cancelar_Arrastre() {
+    if (!arrastre) return;
+    soltando = arrastre->ficha;
+    arrastre.reset();
+    Devolver();
+}
+
+void Estuche::Devolver() {
+    const Control ficha = std::exchange(soltando, Control{});
+    const Image* imagen = Imagen_De(partida, ficha);
+    if (imagen == nullptr) return;
+    flotante.Deslizar(pos() + Lugar(*imagen).topLeft(), REGRESO, [this, ficha] {
+        flotante.hide();
+        if (oculta == ficha) Mostrar_Oculta();
+    });
+}
+
+// A chip that moved by itself glides from its old place; its new place stays free until it comes.
+void Estuche::Volar(Control ficha, const Image& antes) {
+    const int milisegundos = preguntas.vuelo_de(ficha);
+    if (milisegundos <= 0 || arrastre) return;
+    const Image& ahora = *Imagen_De(partida, ficha);
+    flotante.Aparecer(Estampa_De(ahora), pos() + Lugar(antes).topLeft());
+    Ocultar(ficha, 0);
+    flotante.Deslizar(pos() + Lugar(ahora).topLeft(), milisegundos, [this, ficha] {
+        flotante.hide();
+        if (oculta == ficha) Mostrar_Oculta();
+    });
+}
+
+void Estuche::Actualizar_Puntero(QPointF lugar) {
+    if (preguntas.se_puede_tomar(Bajo(lugar))) {
+        setCursor(mano);
+    } else {
+        unsetCursor();
+    }
+}
+
+}  // namespace corvanda

@@ -1,0 +1,96 @@
+// The board case on the screen. It draws the images as the state says, reports presses and drops of
+// chips, and shows a chip that is dragged or glides. It holds no rule and no copy of the state.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "core/pantalla.h"
+#include "ui/escala.h"
+#include "ui/estampas.h"
+#include "ui/ficha_flotante.h"
+
+namespace corvanda {
+
+class Estuche final : public QWidget, public Pantalla {
+    Q_OBJECT
+
+  public:
+    /// Design size, twips.
+    static constexpr double ANCHO = 9135;
+    static constexpr double ALTO = 6075;
+
+    /// What the board asks the window about, because only the game knows.
+    struct Preguntas {
+        /// Whether a press on this chip would pick one up: the pointer shows it.
+        std::function<bool(Control)> se_puede_tomar = [](Control) { return false; };
+        /// How long a chip that has just moved by itself may glide, milliseconds; 0 not at all.
+        std::function<int(Control)> vuelo_de = [](Control) { return 0; };
+    };
+
+    /// `fondo` is what the case lies on, and what a dragged chip may be dragged over.
+    Estuche(const Partida& partida, const Escala& escala, Estampas& estampas, QWidget* fondo);
+
+    void Preguntar(Preguntas nuevas) { preguntas = std::move(nuevas); }
+
+    bool Arrastrando() const { return arrastre.has_value(); }
+
+    /// The window is blocked by a box or loses the mouse: a drag ends without effect, and a chip
+    /// that was dropped and has not moved goes back.
+    void Interrumpir();
+
+    /// Where an image is drawn, logical pixels in this widget.
+    QRectF Lugar(const Image& imagen) const;
+
+    void Refrescar(Control control, const Image& antes) override;
+    void Iniciar_Arrastre(Control ficha) override;
+    void Cancelar_Arrastre() override;
+
+  signals:
+    /// A mouse button (1 left, 2 right, 4 middle) was pressed on an enabled chip.
+    void presionada(Control ficha, Integer boton);
+    /// A dragged chip was dropped on an enabled image.
+    void soltada(Control destino, Control fuente);
+
+  protected:
+    void hideEvent(QHideEvent* evento) override;
+    void paintEvent(QPaintEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+
+  private:
+    struct Arrastre {
+        Control ficha;
+        QPointF agarre;  // from the chip's corner to the pointer
+    };
+
+    Control Bajo(QPointF lugar) const;
+    QSize Pixeles_De(const Image& imagen) const;
+    QPixmap Estampa_De(const Image& imagen) const;
+    void Pintar(QPainter& pintor, const Image& imagen, Control control) const;
+    void Soltar(QPointF lugar);
+    void Devolver();
+    void Volar(Control ficha, const Image& antes);
+    void Ocultar(Control ficha, qreal opacidad);
+    void Mostrar_Oculta();
+    void Actualizar_Puntero(QPointF lugar);
+    void Preparar_Estampas();
+
+    const Partida& partida;
+    const Escala escala;
+    Estampas& estampas;
+    Preguntas preguntas;
+    FichaFlotante flotante;
+    QCursor mano;
+
+    std::optional<Arrastre> arrastre;
+    QPointF pulsado;   // where the button went down
+    Control pulsada;   // the chip it went down on
+    Control soltando;  // a chip dropped and not yet seen to have moved
+    Control oculta;    // the chip whose image is dimmed because it is in the air
+    qreal opacidad_oculta = 1;
+};
+
+}  // namespace corvanda

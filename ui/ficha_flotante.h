@@ -1,0 +1,42 @@
+// A chip above everything else: one that a person drags, one that glides back to its place, or one
+// that glides to where the computer has moved it. It is drawing only and takes no mouse; the game
+// goes on without waiting for it.
+#pragma once
+
+#include <QPixmap>
+#include <QVariantAnimation>
+#include <QWidget>
+#include <functional>
+
+namespace corvanda {
+
+class FichaFlotante final : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// Lies on `fondo` and may go anywhere on it.
+    explicit FichaFlotante(QWidget* fondo);
+
+    /// Shows the chip with its top left corner at a place of `fondo`.
+    void Aparecer(const QPixmap& estampa, QPointF esquina);
+    void Llevar(QPointF esquina);
+    /// Glides to a place and tells; 0 milliseconds or less is at once.
+    void Deslizar(QPointF esquina, int milisegundos, std::function<void()> al_llegar);
+    /// Vanishes; a glide under way tells at once.
+    void Desaparecer();
+    bool Deslizandose() const { return vuelo.state() == QAbstractAnimation::Running; }
+
+  protected:
+    void paintEvent(QPaintEvent* evento) override;
+
+  private:
+    void Llegar();
+
+    QPixmap estampa;
+    QPointF resto;  // the part of the place that is smaller than a logical pixel
+    QPointF lugar;
+    QVariantAnimation vuelo;
+    std::function<void()> aviso;
+};
+
+}  // namespace corvanda

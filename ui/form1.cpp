@@ -1,0 +1,116 @@
+#include "ui/form1.h"
+
+#include <QKeyEvent>
+#include <QThread>
+#include <algorithm>
+
+#include "runtime/conversion.h"
+#include "ui/dialogos.h"
+
+namespace corvanda {
+
+namespace {
+
+constexpr int MAS_RAPIDA = 1;
+constexpr int MAS_LENTA = 200;
+constexpr int PASO_CHICO = 1;
+constexpr int PASO_GRANDE = 20;
+constexpr int ESPERA = 500;   // milliseconds before the chip slides
+constexpr double LADO = 480;  // twips of the chip's picture
+
+const QColor AZUL_OSCURO(0, 0, 0x80);
+
+}  // namespace
+
+Form1::Form1(QWidget* ventana, Módulo1& modulo, const Escala& escala, Estampas& estampas)
+    : QDialog(ventana), modulo(modulo), escala(escala) {
+    setObjectName("Form1");
+    setWindowTitle("Game Speed...");
+    dialogos::Preparar(*this, escala, 4770, 1815);
+    const int lado = qRound(escala.Pixeles(LADO));
+    con_estela = estampas.Suelta("cafe_estela", lado, devicePixelRatioF());
+    quieta = estampas.Suelta("cafe_dialogo", lado, devicePixelRatioF());
+    Poner_Textos();
+    Poner_Controles();
+
+    Scroll->setValue(std::clamp<int>(modulo.Velocidad, MAS_RAPIDA, MAS_LENTA));
+    Scroll_Change();
+    connect(Scroll, &QScrollBar::valueChanged, this, &Form1::Scroll_Change);
+    connect(BtnAceptar, &QPushButton::clicked, this, &Form1::BtnAceptar_Click);
+    connect(BtnCancelar, &QPushButton::clicked, this, &QDialog::reject);
+    connect(&Timer1, &QTimer::timeout, this, &Form1::Timer1_Timer);
+    Timer1.start(ESPERA);
+}
+
+void Form1::Poner_Textos() {
+    const QFont letra = escala.Letra(8.25, true);
+    const auto poner = [&](const char* nombre, const char* texto, dialogos::Sitio sitio,
+                           Qt::Alignment lado) {
+        QLabel* etiqueta = dialogos::Texto(*this, nombre, texto, sitio, escala, letra);
+        etiqueta->setAlignment(lado | Qt::AlignTop);
+        dialogos::Colorear(*etiqueta, AZUL_OSCURO);
+    };
+    poner("Label1", "Machine speed :", {840, 480, 1935, 495}, Qt::AlignHCenter);
+    poner("Label2", "1=Fast", {120, 1440, 1095, 255}, Qt::AlignRight);
+    poner("Label3", "200=Slow", {2520, 1440, 1095, 255}, Qt::AlignLeft);
+    Image3 = dialogos::Texto(*this, "Image3", {}, {3840, 0, LADO, LADO}, escala, letra);
+    Image3->setPixmap(quieta);
+}
+
+void Form1::Poner_Controles() {
+    TxtVel = new QLineEdit(this);
+    TxtVel->setObjectName("TxtVel");
+    TxtVel->setEnabled(false);
+    TxtVel->setFont(escala.Letra(8.25, true));
+    TxtVel->setGeometry(escala.Lugar(1200, 960, 1215, 495));
+    TxtVel->setAccessibleName("Machine speed");
+
+    Scroll = new QScrollBar(Qt::Horizontal, this);
+    Scroll->setObjectName("Scroll");
+    Scroll->setRange(MAS_RAPIDA, MAS_LENTA);
+    Scroll->setSingleStep(PASO_CHICO);
+    Scroll->setPageStep(PASO_GRANDE);
+    Scroll->setFocusPolicy(Qt::StrongFocus);
+    Scroll->setGeometry(escala.Lugar(1200, 1440, 1215, 255));
+    Scroll->setAccessibleName("Machine speed, 1 fast to 200 slow");
+    Scroll->setFocus();
+
+    BtnAceptar = dialogos::Boton(*this, "BtnAceptar", "&Ok", {3480, 840, 1215, 395}, escala);
+    BtnCancelar = dialogos::Boton(*this, "BtnCancelar", "&Cancel", {3480, 1320, 1215, 395}, escala);
+    BtnAceptar->setDefault(true);
+    for (QPushButton* boton : {BtnAceptar, BtnCancelar}) boton->setEnabled(false);
+}
+
+void Form1::Scroll_Change() {
+    TxtVel->setText(QString::fromStdString(Str(static_cast<Integer>(Scroll->value()))));
+}
+
+// The chip slides without any event being handled, so the buttons cannot be pressed meanwhile.
+void Form1::Timer1_Timer() {
+    Timer1.stop();
+    Image3->setPixmap(con_estela);
+    const QSize tamano = Image3->size();
+    for (int x = 3840; x >= 100; x -= 50) {
+        Image3->setGeometry(QRect(escala.Lugar(x, 0, LADO, LADO).topLeft(), tamano));
+        repaint();
+        QThread::msleep(1);
+    }
+    Image3->setPixmap(quieta);
+    for (QPushButton* boton : {BtnAceptar, BtnCancelar}) boton->setEnabled(true);
+}
+
+void Form1::BtnAceptar_Click() {
+    modulo.Velocidad = static_cast<Integer>(Scroll->value());
+    accept();
+}
+
+// Esc is the Cancel button, and so does nothing while that cannot be used.
+void Form1::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() == Qt::Key_Escape) {
+        BtnCancelar->click();
+    } else {
+        QDialog::keyPressEvent(evento);
+    }
+}
+
+}  // namespace corvanda

@@ -1,0 +1,51 @@
+// The start-player dialog: each side throws one die, the higher throw begins, equal throws are
+// thrown again. The caption of its one button is all the progress there is.
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <functional>
+
+#include "core/partida.h"
+#include "runtime/ports.h"
+#include "ui/escala.h"
+#include "ui/estampas.h"
+
+namespace corvanda {
+
+class FrmVolado final : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// `ayuda` opens the help as F1 does in the main window.
+    FrmVolado(QWidget* ventana, Módulo1& modulo, RandomNumbers& azar, const Escala& escala,
+              Estampas& estampas, std::function<void()> ayuda);
+
+    /// One step: a throw, or the end.
+    void Btn_Click();
+
+  protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+
+  private:
+    void Form_Load();
+    Byte Tirar(QLabel* imagen);
+    void Tirar_Cafe();
+    void Decidir();
+
+    Módulo1& modulo;
+    RandomNumbers& azar;
+    const Escala& escala;
+    Estampas& estampas;
+    std::function<void()> ayuda;
+
+    QLabel* Image1 = nullptr;
+    QLabel* Image2 = nullptr;
+    QLabel* Label1 = nullptr;
+    QPushButton* Btn = nullptr;
+    Byte Tiro_Blanca = 0;  // 0..5, the face less one
+    Byte Tiro_Cafe = 0;
+};
+
+}  // namespace corvanda

@@ -1,0 +1,38 @@
+// The menu tree of the main window. Each entry keeps its name from the design; the check marks of
+// the levels and of the sound are state that the settings are read into and saved from.
+#pragma once
+
+#include <QAction>
+#include <QMenuBar>
+#include <array>
+
+#include "runtime/types.h"
+
+namespace corvanda {
+
+class Menus {
+  public:
+    /// Builds the tree on a window's menu bar, which owns the entries.
+    explicit Menus(QMenuBar& barra);
+
+    QAction* mnuNew = nullptr;
+    QAction* mnuVs = nullptr;
+    QAction* mnuPasar = nullptr;
+    std::array<QAction*, 3> mnuLev{};  ///< 0 and 2 are the levels, 1 the line between them
+    QAction* mnuSonido = nullptr;
+    QAction* mnuVel = nullptr;
+    QAction* mnuCont = nullptr;
+    QAction* mnuIndice = nullptr;
+    QAction* mnuAcerca = nullptr;
+    QAction* mnuSalir = nullptr;
+
+    /// Checks level 0 or 2 and unchecks the other.
+    void Marcar_Nivel(Integer index);
+
+  private:
+    void Hacer_Juego(QMenuBar& barra);
+    void Hacer_Opciones(QMenuBar& barra);
+    void Hacer_Ayuda(QMenuBar& barra);
+};
+
+}  // namespace corvanda
