@@ -32,7 +32,7 @@ class Aplicacion final : public QObject {
     void Empezar();
 
     FrmPrincipal& Ventana() { return *principal; }
-    const Partida& Estado() const { return partida; }
+    Partida& Estado() { return partida; }
 
   private:
     void Cerrar_Por_El_Sistema();

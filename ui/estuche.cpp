@@ -1,5 +1,6 @@
 #include "ui/estuche.h"
 
+#include <QFont>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -124,6 +125,7 @@ void Estuche::paintEvent(QPaintEvent* evento) {
         return una.imagen->ZOrder < otra.imagen->ZOrder;
     });
     for (const Capa& capa : capas) Pintar(pintor, *capa.imagen, capa.control);
+    for (Integer lugar = 0; lugar <= BARRA_BLANCA; ++lugar) Pintar_Cuenta(pintor, lugar);
 }
 
 void Estuche::Pintar(QPainter& pintor, const Image& imagen, Control control) const {
@@ -134,12 +136,56 @@ void Estuche::Pintar(QPainter& pintor, const Image& imagen, Control control) con
     if (atenuada) pintor.setOpacity(1);
 }
 
+// Chips that lie exactly on others hide them, so the top one tells how many there are.
+void Estuche::Pintar_Cuenta(QPainter& pintor, Integer lugar) const {
+    const Pila& pila = Pila_En(partida, lugar);
+    const bool cafe =
+        lugar == BARRA_CAFE || (Es_Punto(lugar) && Punto_En(partida, lugar).Owner == CAFE);
+    const Arreglo color = cafe ? Arreglo::Cafe : Arreglo::Blanca;
+    const Image* tope = Imagen_De(partida, {color, pila.Tope()});
+    if (tope == nullptr || Control{color, pila.Tope()} == oculta) return;
+    bool tapa = false;
+    for (Integer item = 1; item < pila.Cuenta(); ++item) {
+        const Image* otra = Imagen_De(partida, {color, pila.Ficha(item)});
+        tapa = tapa || (otra->Top == tope->Top && Control{color, pila.Ficha(item)} != oculta);
+    }
+    if (!tapa) return;
+
+    const QRectF ficha = Lugar(*tope);
+    const qreal radio = ficha.height() * 0.27;
+    pintor.setPen(Qt::NoPen);
+    pintor.setBrush(cafe ? QColor(0x2a, 0x16, 0x0d) : QColor(0xf6, 0xee, 0xd8));
+    pintor.drawEllipse(ficha.center(), radio, radio);
+    QFont letra = font();
+    letra.setPixelSize(std::max(1, qRound(ficha.height() * 0.42)));
+    letra.setBold(true);
+    pintor.setFont(letra);
+    pintor.setPen(cafe ? QColor(0xf6, 0xee, 0xd8) : QColor(0x4a, 0x2c, 0x18));
+    pintor.drawText(ficha, Qt::AlignCenter, QString::number(pila.Cuenta()));
+}
+
+// The number moves to another chip of a tall stack when one comes or goes.
+void Estuche::Refrescar_Pila_De(const Image& ficha) {
+    for (Integer p = 0; p < PUNTOS; ++p) {
+        const Pila& pila = Pila_En(partida, p);
+        const Image& triangulo = partida.Triangle.at(static_cast<std::size_t>(p));
+        const bool abajo = ficha.Top > partida.Triangle[23].Top - partida.Cafe[0].Height;
+        if (triangulo.Left != ficha.Left || abajo != (p >= 12) || pila.Cuenta() < 4) continue;
+        const Arreglo color = Punto_En(partida, p).Owner == CAFE ? Arreglo::Cafe : Arreglo::Blanca;
+        for (Integer item = 0; item < pila.Cuenta(); ++item) {
+            update(Lugar(*Imagen_De(partida, {color, pila.Ficha(item)})).toAlignedRect());
+        }
+    }
+}
+
 void Estuche::Refrescar(Control control, const Image& antes) {
     const Image& ahora = *Imagen_De(partida, control);
     update(Lugar(antes).toAlignedRect());
     update(Lugar(ahora).toAlignedRect());
     const bool movida = antes.Left != ahora.Left || antes.Top != ahora.Top;
     if (!movida || !Recibe_Presiones(control.Nombre)) return;
+    Refrescar_Pila_De(antes);
+    Refrescar_Pila_De(ahora);
     if (control == soltando) soltando = {};
     if (control == oculta) flotante.Desaparecer();
     if (control == oculta) Mostrar_Oculta();

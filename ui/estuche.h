@@ -70,6 +70,8 @@ class Estuche final : public QWidget, public Pantalla {
     QSize Pixeles_De(const Image& imagen) const;
     QPixmap Estampa_De(const Image& imagen) const;
     void Pintar(QPainter& pintor, const Image& imagen, Control control) const;
+    void Pintar_Cuenta(QPainter& pintor, Integer lugar) const;
+    void Refrescar_Pila_De(const Image& ficha);
     void Soltar(QPointF lugar);
     void Devolver();
     void Volar(Control ficha, const Image& antes);

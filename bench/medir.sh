@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# Prints what the game costs, measured on a virtual screen of its own:
+#
+#     bench/medir.sh [COMMAND TITLE]...
+#
+# First the benchmarks of the core and of the window, then, for the game and for every further
+# program named by a command and a pattern for its window's title, the time from the start to a
+# mapped window (median of nine), and memory, processor time and wake-ups at rest over ten seconds.
+set -u
+cd "$(dirname "$0")/.." || exit 2
+tools/instalar.sh build run test || exit 1
+source tools/construir.sh
+configurado release bench_nucleo bench_ventana corvanda || configurar release || exit 1
+compilar release bench_nucleo bench_ventana corvanda || exit 1
+bin=build/release/bin
+
+work=$(mktemp -d)
+export HOME=$work XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work/config
+Xvfb -displayfd 3 -screen 0 1920x1080x24 -nolisten tcp 3>"$work/display" >/dev/null 2>&1 &
+server=$!
+manager=
+trap 'kill $manager $server 2>/dev/null; rm -rf "$work"' EXIT
+for _ in {1..50}; do [ -s "$work/display" ] && break; sleep 0.1; done
+export DISPLAY=:$(cat "$work/display")
+openbox >/dev/null 2>&1 & manager=$!
+sleep 1
+
+ms() { local t=${EPOCHREALTIME/[.,]/}; echo $((t / 1000)); }
+
+window() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+
+# Starts a program and waits for its window; sets pid and took.
+start() {
+  local from; from=$(ms)
+  $1 >/dev/null 2>&1 & pid=$!
+  for _ in {1..1000}; do window "$2" && break; sleep 0.005; done
+  took=$(( $(ms) - from ))
+}
+
+stop() { kill "$pid" 2>/dev/null; wait "$pid" 2>/dev/null; sleep 0.3; }
+
+cpu() { awk '{print ($14 + $15) * 10}' "/proc/$1/stat"; }
+wakes() { cat /proc/"$1"/task/*/status | awk '/^voluntary/ {n += $2} END {print n}'; }
+
+measure() {
+  local all=() i pss c0 w0
+  for i in {1..9}; do start "$1" "$2"; all+=("$took"); stop; done
+  start "$1" "$2"; sleep 6
+  pss=$(awk '/^Pss:/ {printf "%.1f", $2 / 1024}' "/proc/$pid/smaps_rollup")
+  c0=$(cpu "$pid"); w0=$(wakes "$pid"); sleep 10
+  printf '%-24s mapped window %4s ms, memory %6s MiB, in 10 s at rest: processor %s ms, wake-ups %s\n' \
+    "${1##*/}" "$(printf '%s\n' "${all[@]}" | sort -n | sed -n 5p)" "$pss" \
+    $(($(cpu "$pid") - c0)) $(($(wakes "$pid") - w0))
+  stop
+}
+
+"$bin/bench_nucleo"
+"$bin/bench_ventana"
+measure "$bin/corvanda" 'Corvanda|Acerca'
+while [ $# -ge 2 ]; do measure "$1" "$2"; shift 2; done
