@@ -5,28 +5,53 @@
 
 namespace corvanda {
 
+namespace {
+
+Escala De_La_Pantalla() {
+    return Escala::Para(QGuiApplication::primaryScreen()->availableGeometry().size());
+}
+
+}  // namespace
+
 Aplicacion::Aplicacion(RandomNumbers& azar)
-    : estampas(NativePath(programa.Path(), programa.Path() + "\\imagenes")) {
+    : escala(De_La_Pantalla()),
+      imagenes(NativePath(programa.Path(), programa.Path() + "\\imagenes")),
+      estampas(imagenes),
+      medios(programa.Path(), escala.K()) {
     // The windows come and go; only the main window's word ends the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName("corvanda");
     sonidos.LookForDevices();
 
     const Servicios servicios{mensajes, eventos, puntero, azar, sonidos, almacen, ayuda, programa};
-    const Escala escala =
-        Escala::Para(QGuiApplication::primaryScreen()->availableGeometry().size());
     principal = std::make_unique<FrmPrincipal>(partida, servicios, escala, estampas, &computadora);
+    principal->Poner_Acerca([this] { Mostrar_Acerca(); });
     mensajes.SetMainWindow(principal.get());
     connect(principal.get(), &FrmPrincipal::terminada, this, [] { QCoreApplication::exit(0); });
-    connect(&sistema, &SystemClose::requested, this, &Aplicacion::Cerrar_Por_El_Sistema);
+    connect(&sistema, &SystemClose::requested, principal.get(),
+            [this] { principal->Descargar(razon::Sistema); });
+}
+
+std::unique_ptr<FrmAbout> Aplicacion::Hacer_Acerca(QWidget* ventana) {
+    return std::make_unique<FrmAbout>(ventana, veces,
+                                      FrmAbout::Servicios_De_Acerca{medios, puntero, programa},
+                                      escala, imagenes, [this] { Mostrar_Principal(); });
 }
 
 void Aplicacion::Empezar() {
-    principal->Form_Load();
+    inicio = Hacer_Acerca(nullptr);
+    inicio->show();
 }
 
-void Aplicacion::Cerrar_Por_El_Sistema() {
-    principal->Descargar(razon::Sistema);
+// The first showing loads the window; later ones find it where it is.
+void Aplicacion::Mostrar_Principal() {
+    if (!principal->isVisible()) principal->Form_Load();
+}
+
+void Aplicacion::Mostrar_Acerca() {
+    const auto acerca = Hacer_Acerca(principal.get());
+    acerca->Mostrar_Direccion();
+    acerca->exec();
 }
 
 }  // namespace corvanda

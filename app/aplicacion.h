@@ -9,13 +9,16 @@
 #include "core/partida.h"
 #include "desktop/event_loop.h"
 #include "desktop/help_viewer.h"
+#include "desktop/media_control.h"
 #include "desktop/message_box.h"
 #include "desktop/mouse_pointer.h"
 #include "desktop/program_folder.h"
 #include "desktop/settings_file.h"
 #include "desktop/system_close.h"
 #include "desktop/wave_player.h"
+#include "ui/escala.h"
 #include "ui/estampas.h"
+#include "ui/frm_about.h"
 #include "ui/frm_principal.h"
 
 namespace corvanda {
@@ -28,14 +31,17 @@ class Aplicacion final : public QObject {
     /// outlive it.
     explicit Aplicacion(RandomNumbers& azar);
 
-    /// Shows the main window.
+    /// Shows the start-up screen, and the main window when that closes.
     void Empezar();
+    /// Shows the main window at once.
+    void Mostrar_Principal();
 
     FrmPrincipal& Ventana() { return *principal; }
     Partida& Estado() { return partida; }
 
   private:
-    void Cerrar_Por_El_Sistema();
+    void Mostrar_Acerca();
+    std::unique_ptr<FrmAbout> Hacer_Acerca(QWidget* ventana);
 
     Partida partida = Diseno();
     ProgramFolder programa;
@@ -46,9 +52,14 @@ class Aplicacion final : public QObject {
     SettingsFile almacen;
     QtHelpViewer ayuda{mensajes, programa.Path(), "Corvanda"};
     Computadora computadora;
+    const Escala escala;
+    const QString imagenes;
     Estampas estampas;
+    QtMediaControl medios;
     SystemClose sistema;
+    Integer veces = 0;  // ticks of all showings of the start-up screen
     std::unique_ptr<FrmPrincipal> principal;
+    std::unique_ptr<FrmAbout> inicio;
 };
 
 }  // namespace corvanda

@@ -94,7 +94,7 @@ void Medir(QElapsedTimer& reloj) {
     FrmPrincipal& ventana = programa.Ventana();
     Testigo testigo(reloj);
     ventana.Tablero().installEventFilter(&testigo);
-    ventana.Form_Load();
+    programa.Mostrar_Principal();
     while (testigo.primera < 0) QCoreApplication::processEvents();
     std::printf("first picture of the main window, ms after main() began  %8.1f\n",
                 testigo.primera);

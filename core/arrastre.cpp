@@ -86,7 +86,7 @@ void Juego::Cafe_DragDrop(Integer Index, Control Source) {
 // for a point that the mover holds itself: such a point is refused too when it has several chips.
 void Juego::Soltar_En_Ficha(Control blanco, Control fuente) {
     const Image* imagen = Imagen_De(partida, blanco);
-    if (imagen == nullptr || Entrada_Cerrada() || !Es_Tope_De_Origen(fuente)) return;
+    if (imagen == nullptr || !Puede_Soltar(fuente)) return;
     const Integer destino = GetNumber(*imagen);
     const bool ajena = fuente.Nombre != blanco.Nombre;
     const bool atras = Hacia_Atras(Color_De(fuente), partida.Origen, destino);
@@ -98,13 +98,19 @@ void Juego::Soltar_En_Ficha(Control blanco, Control fuente) {
 }
 
 void Juego::Soltar(Control fuente, Integer destino) {
-    if (Entrada_Cerrada() || !Es_Tope_De_Origen(fuente)) return;
+    if (!Puede_Soltar(fuente)) return;
     const Integer color = Color_De(fuente);
     if (Hacia_Atras(color, partida.Origen, destino)) {
         MsgError(2);
         return;
     }
     Mover(color, fuente.Index, destino);
+}
+
+// A drag may outlive the turn it began in; such a drop means nothing any more.
+bool Juego::Puede_Soltar(Control fuente) const {
+    if (Entrada_Cerrada() || partida.Jugando == False) return false;
+    return partida.Turno == Color_De(fuente) && Es_Tope_De_Origen(fuente);
 }
 
 bool Juego::Es_Tope_De_Origen(Control fuente) const {

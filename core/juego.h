@@ -7,8 +7,8 @@
 // Message boxes, dialogs and passes of the event loop may run any other handler; vigencia.h says
 // who may go on afterwards.
 //
-// Bad input (a chip, point or tray that does not exist, a chip that is not on top of its stack) is
-// quietly refused and changes nothing.
+// Bad input of the handlers (a chip, point or tray that does not exist, a drop of a chip that is
+// not on top of its stack or not of the side to move) is quietly refused and changes nothing.
 #pragma once
 
 #include <optional>
@@ -50,7 +50,8 @@ class Juego {
     /// Dobles, Nivel, Sonido and Velocidad alone.
     void Ordenar();
     /// A new game: starting position, start-player dialog, first roll. In the middle of a roll or
-    /// of the computer's turn it begins as soon as that has unwound, which it makes happen.
+    /// of the computer's turn it begins as soon as that has unwound, which it makes happen; so the
+    /// dialog must live as long as the game.
     void Empezar(Byte nivel, Volado& volado);
 
     // Dice and turns (dados.cpp)
@@ -151,7 +152,9 @@ class Juego {
     void Presionar(Integer color, Integer Index, Integer Button);
     void Soltar(Control fuente, Integer destino);
     void Soltar_En_Ficha(Control blanco, Control fuente);
+    bool Puede_Soltar(Control fuente) const;
     bool Es_Tope_De_Origen(Control fuente) const;
+    bool Hay_Ganador() const;
 
     Integer Dado_Que_Saca(Integer distancia) const;
     bool Hay_Ficha_Atras() const;

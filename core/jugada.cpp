@@ -9,8 +9,7 @@ void Juego::Mover(Integer Color, Integer Ficha, Integer Destino) {
     if (!Es_Punto(Destino) || Ficha < 0 || Ficha >= FICHAS) return;
     const bool colocando = partida.Origen == ORIGEN_COLOCACION;
     if (partida.Origen == Destino) return;
-    // Colours other than the two close no point and yet play as Brown.
-    if ((Color == BLANCA || Color == CAFE) && Cerrado(partida, Destino, Color)) {
+    if (Cerrado(partida, Destino, Color)) {
         MsgError(0);
         return;
     }

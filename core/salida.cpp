@@ -21,7 +21,7 @@ Integer Pila_De_Bandeja(Integer color) {
 }  // namespace
 
 void Juego::Adios_DragDrop(Integer Index, Control Source) {
-    if (Entrada_Cerrada() || !Es_Tope_De_Origen(Source)) return;
+    if (!Puede_Soltar(Source)) return;
     const bool propia = Index == Bandeja_De(partida.Turno);
     const auto fuera = static_cast<Integer>(Index == 1 ? PUNTOS : -1);
     const auto distancia = static_cast<Integer>(std::abs(partida.Origen - fuera));

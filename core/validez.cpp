@@ -31,8 +31,10 @@ class Revision {
   private:
     using Vistas = std::array<int, FICHAS>;
 
-    void Exigir(bool cierto, const std::string& falta) {
-        if (!cierto) faltas.push_back(falta);
+    // The words are only put together when something is wrong: positions are checked very often.
+    template <typename Falta>
+    void Exigir(bool cierto, const Falta& falta) {
+        if (!cierto) faltas.push_back(falta());
     }
 
     static std::string Nombre(Arreglo color, Integer ficha) {
@@ -42,14 +44,17 @@ class Revision {
     // One chip of a stack: a number that exists, counted once, its image in its place.
     void Ver_Ficha(Arreglo color, Integer ficha, Single left, Single top, bool enabled) {
         const Image* imagen = Imagen_De(partida, {color, ficha});
-        Exigir(imagen != nullptr, Nombre(color, ficha) + " does not exist");
+        Exigir(imagen != nullptr,
+               [&] { return std::string(Nombre(color, ficha) + " does not exist"); });
         if (imagen == nullptr) return;
         Vistas& vistas = color == Arreglo::Blanca ? vistas_blancas : vistas_cafes;
         ++vistas.at(static_cast<std::size_t>(ficha));
-        Exigir(imagen->Left == left && imagen->Top == top, Nombre(color, ficha) + " is misplaced");
-        Exigir(imagen->Enabled == enabled,
-               Nombre(color, ficha) + " is wrongly enabled or disabled");
-        Exigir(imagen->Visible, Nombre(color, ficha) + " is hidden");
+        Exigir(imagen->Left == left && imagen->Top == top,
+               [&] { return std::string(Nombre(color, ficha) + " is misplaced"); });
+        Exigir(imagen->Enabled == enabled, [&] {
+            return std::string(Nombre(color, ficha) + " is wrongly enabled or disabled");
+        });
+        Exigir(imagen->Visible, [&] { return std::string(Nombre(color, ficha) + " is hidden"); });
     }
 
     Single Base(Integer punto) const {
@@ -70,9 +75,10 @@ class Revision {
     void Ver_Punto(Integer p) {
         const Pila& pila = Pila_En(partida, p);
         const Punto& punto = Punto_En(partida, p);
-        const std::string donde = "point " + std::to_string(p);
+        const auto donde = [p] { return "point " + std::to_string(p); };
         const bool con_dueno = punto.Owner == BLANCA || punto.Owner == CAFE;
-        Exigir(pila.Cuenta() == 0 ? punto.Owner == NADIE : con_dueno, donde + ": wrong owner");
+        Exigir(pila.Cuenta() == 0 ? punto.Owner == NADIE : con_dueno,
+               [&] { return std::string(donde() + ": wrong owner"); });
         const Arreglo color = punto.Owner == BLANCA ? Arreglo::Blanca : Arreglo::Cafe;
         const Single left = partida.Triangle.at(static_cast<std::size_t>(p)).Left;
         Single y = Base(p);
@@ -80,7 +86,8 @@ class Revision {
             Ver_Ficha(color, pila.Ficha(item), left, y, true);
             y = Siguiente(p, y);
         }
-        Exigir(punto.Y == y, donde + ": wrong height for the next chip");
+        Exigir(punto.Y == y,
+               [&] { return std::string(donde() + ": wrong height for the next chip"); });
         Ver_Orden(color, pila);
     }
 
@@ -90,8 +97,10 @@ class Revision {
                 Imagen_De(partida, {color, pila.Ficha(static_cast<Integer>(item - 1))});
             const Image* abajo = Imagen_De(partida, {color, pila.Ficha(item)});
             if (arriba == nullptr || abajo == nullptr) continue;
-            Exigir(arriba->ZOrder > abajo->ZOrder,
-                   Nombre(color, pila.Ficha(item)) + " is drawn over the chip above it");
+            Exigir(arriba->ZOrder > abajo->ZOrder, [&] {
+                return std::string(Nombre(color, pila.Ficha(item)) +
+                                   " is drawn over the chip above it");
+            });
         }
     }
 
@@ -120,38 +129,47 @@ class Revision {
             Ver_Ficha(color, pila.Ficha(item), left, bandeja.Top + debajo * paso, false);
         }
         Ver_Orden(color, pila);
-        Exigir(static_cast<Single>(altura) == static_cast<Single>(pila.Cuenta()) * paso,
-               "tray " + std::to_string(cual) + ": wrong height for the next chip");
-        Exigir(bandeja.Visible == (en_casa != False),
-               "tray " + std::to_string(cual) + " is shown without its flag, or hidden with it");
-        Exigir(pila.Cuenta() == 0 || en_casa != False,
-               "tray " + std::to_string(cual) + " holds chips before all were home");
+        Exigir(static_cast<Single>(altura) == static_cast<Single>(pila.Cuenta()) * paso, [&] {
+            return std::string("tray " + std::to_string(cual) + ": wrong height for the next chip");
+        });
+        Exigir(bandeja.Visible == (en_casa != False), [&] {
+            return std::string("tray " + std::to_string(cual) +
+                               " is shown without its flag, or hidden with it");
+        });
+        Exigir(pila.Cuenta() == 0 || en_casa != False, [&] {
+            return std::string("tray " + std::to_string(cual) +
+                               " holds chips before all were home");
+        });
     }
 
     void Ver_Cuentas(const Vistas& vistas, const std::string& color) {
         for (std::size_t i = 0; i < vistas.size(); ++i) {
-            Exigir(vistas.at(i) == 1, "the " + color + " chip " + std::to_string(i) +
-                                          " stands in " + std::to_string(vistas.at(i)) + " places");
+            Exigir(vistas.at(i) == 1, [&] {
+                return std::string("the " + color + " chip " + std::to_string(i) + " stands in " +
+                                   std::to_string(vistas.at(i)) + " places");
+            });
         }
     }
 
     void Ver_Dado(const Image& dado, Integer valor, const std::string& nombre) {
-        Exigir(valor >= 0 && valor <= 6, nombre + " is out of range");
+        Exigir(valor >= 0 && valor <= 6, [&] { return std::string(nombre + " is out of range"); });
         if (!dado.Visible) return;
         const int cara = static_cast<int>(dado.Shown) - static_cast<int>(Picture::Dado1) + 1;
-        Exigir(valor == cara, nombre + " shows another face than its value");
+        Exigir(valor == cara,
+               [&] { return std::string(nombre + " shows another face than its value"); });
     }
 
     void Ver_Banderas() {
         const auto bandera = [](Boolean valor) { return valor == True || valor == False; };
         Exigir(bandera(partida.Jugando) && bandera(partida.Blanca_En_Casa) &&
                    bandera(partida.Cafe_En_Casa) && bandera(partida.Sonido),
-               "a flag is neither -1 nor 0");
-        Exigir(partida.Turno >= CAFE && partida.Turno <= BLANCA, "Turno is no colour");
-        Exigir(partida.Nivel <= AVANZADO, "Nivel is no level");
-        Exigir(partida.Dobles <= 2, "Dobles is above 2");
+               [&] { return std::string("a flag is neither -1 nor 0"); });
+        Exigir(partida.Turno >= CAFE && partida.Turno <= BLANCA,
+               [&] { return std::string("Turno is no colour"); });
+        Exigir(partida.Nivel <= AVANZADO, [&] { return std::string("Nivel is no level"); });
+        Exigir(partida.Dobles <= 2, [&] { return std::string("Dobles is above 2"); });
         Exigir(partida.Origen >= ORIGEN_BARRA_BLANCA && partida.Origen <= ORIGEN_BARRA_CAFE,
-               "Origen is no place");
+               [&] { return std::string("Origen is no place"); });
     }
 
     const Partida& partida;

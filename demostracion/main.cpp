@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
     QObject::connect(actor.get(), &QThread::finished, &programa, [&] {
         if (!falta.isEmpty()) QCoreApplication::exit(1);
     });
-    programa.Empezar();
+    programa.Mostrar_Principal();
     actor->start();
     const int fin = QApplication::exec();
     while (!actor->wait(10)) QApplication::processEvents();

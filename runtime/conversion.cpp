@@ -30,11 +30,25 @@ bool Starts_A_Number(std::string_view text) {
     return digit(text[0]) || (text[0] == '.' && text.size() > 1 && digit(text[1]));
 }
 
-// The parser reports too large and too small alike; only a negative exponent makes a number small.
+long Exponent(std::string_view digits) {
+    constexpr long BEYOND = 1000000000;
+    const bool negative = digits.starts_with('-');
+    if (digits.starts_with('+')) digits.remove_prefix(1);
+    long exponent = 0;
+    const auto end = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
+    if (end.ec == std::errc::result_out_of_range) return negative ? -BEYOND : BEYOND;
+    return exponent;
+}
+
+// The parser reports too large and too small alike. Which it is shows in the power of ten of the
+// first digit that is not 0.
 double Out_Of_Range(std::string_view spelled) {
-    const bool tiny = spelled.find("e-") != std::string_view::npos ||
-                      spelled.find("E-") != std::string_view::npos;
-    return tiny ? 0 : std::numeric_limits<double>::infinity();
+    const auto e = std::min(spelled.find_first_of("eE"), spelled.size());
+    const auto first = spelled.find_first_not_of("0.");
+    const auto point = std::min(spelled.find('.'), e);
+    const long power = static_cast<long>(point) - static_cast<long>(first);
+    const long exponent = Exponent(spelled.substr(std::min(e + 1, spelled.size())));
+    return power + exponent > 0 ? std::numeric_limits<double>::infinity() : 0;
 }
 
 }  // namespace

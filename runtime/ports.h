@@ -93,6 +93,16 @@ class SettingsStore {
     virtual std::string Commit() = 0;
 };
 
+class MediaControl {
+  public:
+    virtual ~MediaControl() = default;
+    /// Carries out one text command of the platform's media control, for instance
+    /// `Status "C:\Film.avi" Mode`. Returns 0 with the answer in `reply`, empty where there is
+    /// none; or an error code, and then the reply is empty. Window handles are numbers whose
+    /// meaning the forms and the player share: the address of the widget.
+    virtual long mciSendString(const std::string& command, std::string& reply) = 0;
+};
+
 /// Command numbers of the help viewer.
 namespace help {
 inline constexpr Integer Context = 1;

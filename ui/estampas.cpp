@@ -4,6 +4,7 @@
 #include <QPainterPath>
 #include <QSvgRenderer>
 #include <QThreadPool>
+#include <algorithm>
 #include <memory>
 
 #include "ui/figuras.h"
@@ -50,18 +51,26 @@ QImage Lienzo(QSize tamano) {
     return lienzo;
 }
 
+// A drawing of nothing would make the chip or die invisible.
+bool Vacio(const QImage& lienzo) {
+    const uchar* fin = lienzo.constBits() + lienzo.sizeInBytes();
+    return std::all_of(lienzo.constBits(), fin, [](uchar octeto) { return octeto == 0; });
+}
+
 QImage Dibujar(const QString& carpeta, Picture estampa, QSize tamano) {
     QImage lienzo = Lienzo(tamano);
     QPainter pintor(&lienzo);
     pintor.setRenderHint(QPainter::Antialiasing);
     QSvgRenderer dibujo(carpeta + '/' + Archivo_De(estampa) + ".svg");
-    if (!dibujo.isValid()) {
-        Dibujar_Figura(pintor, estampa, QRectF({}, QSizeF(tamano)));
-        return lienzo;
-    }
     // Everything fills its place, except the dice: those are square whatever the place is.
     if (Cara_De(estampa) > 0) dibujo.setAspectRatioMode(Qt::KeepAspectRatio);
-    dibujo.render(&pintor, QRectF({}, QSizeF(tamano)));
+    if (dibujo.isValid()) dibujo.render(&pintor, QRectF({}, QSizeF(tamano)));
+    pintor.end();
+    if (Vacio(lienzo)) {
+        pintor.begin(&lienzo);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        Dibujar_Figura(pintor, estampa, QRectF({}, QSizeF(tamano)));
+    }
     return lienzo;
 }
 
@@ -92,7 +101,8 @@ QPixmap Estampas::De(Picture estampa, QSize tamano, qreal ratio) {
         const QImage imagen = camino.valid() ? camino.get() : Dibujar(carpeta, estampa, tamano);
         hechas.insert(clave, QPixmap::fromImage(imagen));
     }
-    QPixmap hecha = hechas.value(clave);
+    // Set where it is kept: a copy would be a copy of all its pixels.
+    QPixmap& hecha = hechas[clave];
     hecha.setDevicePixelRatio(ratio);
     return hecha;
 }

@@ -28,8 +28,14 @@ Form1::Form1(QWidget* ventana, Módulo1& modulo, const Escala& escala, Estampas&
     setWindowTitle("Game Speed...");
     dialogos::Preparar(*this, escala, 4770, 1815);
     const int lado = qRound(escala.Pixeles(LADO));
-    con_estela = estampas.Suelta("cafe_estela", lado, devicePixelRatioF());
-    quieta = estampas.Suelta("cafe_dialogo", lado, devicePixelRatioF());
+    const qreal ratio = devicePixelRatioF();
+    const auto ficha = [&](const char* nombre) {
+        const QPixmap suelta = estampas.Suelta(nombre, lado, ratio);
+        return suelta.isNull() ? estampas.De(Picture::Cafe, QSize(lado, lado) * ratio, ratio)
+                               : suelta;
+    };
+    con_estela = ficha("cafe_estela");
+    quieta = ficha("cafe_dialogo");
     Poner_Textos();
     Poner_Controles();
 
@@ -70,6 +76,8 @@ void Form1::Poner_Controles() {
     Scroll->setRange(MAS_RAPIDA, MAS_LENTA);
     Scroll->setSingleStep(PASO_CHICO);
     Scroll->setPageStep(PASO_GRANDE);
+    // As the toolkit makes them, scroll bars go left at the right arrow key.
+    Scroll->setInvertedControls(false);
     Scroll->setFocusPolicy(Qt::StrongFocus);
     Scroll->setGeometry(escala.Lugar(1200, 1440, 1215, 255));
     Scroll->setAccessibleName("Machine speed, 1 fast to 200 slow");

@@ -57,6 +57,7 @@ void Menus::Hacer_Opciones(QMenuBar& barra) {
     Raya(menu, "ojren");
     QMenu* niveles = menu->addMenu("Level");
     niveles->setObjectName("mnuLevel");
+    niveles->menuAction()->setObjectName("mnuLevel");
     mnuLev[0] = Marca(niveles, "mnuLev0", "&Beginner");
     mnuLev[1] = Raya(niveles, "mnuLev1");
     mnuLev[2] = Marca(niveles, "mnuLev2", "&Advanced");

@@ -21,6 +21,12 @@ struct Mesa {
         escritorio.Leer();
     }
 
+    /// Presses a chip; returns the one that is dragged then, Arreglo::Ninguno for none.
+    Control Presionar(Control ficha, Integer boton = LeftButton);
+    /// Presses the mover's top chip at a point or on its bar (a value of Origen).
+    Control Tomar(Integer origen);
+    /// Drops a chip on a point, a chip or a tray.
+    void Soltar(Control fuente, Control blanco);
     /// Presses the top chip of a point, or of the mover's bar, and drops it on a point image.
     void Jugar(Integer origen, Integer destino);
 
@@ -28,6 +34,9 @@ struct Mesa {
     Escritorio escritorio;
     Juego juego;
 };
+
+/// The dice in one line, "4* 0 x2": a star for a die that is shown, an x for what a double leaves.
+std::string Dados_De(const Partida& partida);
 
 /// A start-player dialog that leaves a value in Turno without asking anybody.
 struct Volado_Fijo final : Volado {

@@ -1,0 +1,84 @@
+#include "desktop/wave_device.h"
+
+// The program has its own main; the library must not put another in front of it.
+#define SDL_MAIN_HANDLED
+#include <SDL.h>
+
+#include <algorithm>
+
+namespace corvanda {
+
+namespace {
+
+/// Long enough that the moves of one turn find the device open.
+constexpr std::chrono::seconds quiet_time{2};
+/// Frames that the library hands over at once, about 23 milliseconds. With half as many, sounds
+/// crackle on a machine that has other work to do; with twice as many, they come late.
+constexpr int frames_at_once = 1024;
+
+}  // namespace
+
+WaveDevice::~WaveDevice() {
+    Close();
+    // What the library keeps for each thread, which it cannot see end.
+    SDL_TLSCleanup();
+}
+
+bool WaveDevice::Start() {
+    if (started) return true;
+    SDL_SetMainReady();
+    // SIGTERM and SIGINT belong to the program.
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_ROLE, "game");
+    started = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
+    rest_at = Clock::now() + quiet_time;
+    return started;
+}
+
+bool WaveDevice::Open() {
+    if (!Start()) return false;
+    if (device != 0) return true;
+    SDL_AudioSpec wanted{};
+    wanted.freq = wave::Rate;
+    wanted.format = AUDIO_S16SYS;
+    wanted.channels = wave::Channels;
+    wanted.samples = frames_at_once;
+    // No changes allowed: a device of another format gets its samples through the library's own
+    // conversion.
+    device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+    return device != 0;
+}
+
+unsigned WaveDevice::Count() {
+    if (!Start()) return 0;
+    return static_cast<unsigned>(std::max(0, SDL_GetNumAudioDevices(0)));
+}
+
+bool WaveDevice::Play(const wave::Samples& samples) {
+    // A device whose server died is stopped for ever.
+    if (device != 0 && SDL_GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED) Close();
+    if (!Open()) {
+        Close();
+        return false;
+    }
+    // In one lock, so that the device finds either sound and no gap between them.
+    SDL_LockAudioDevice(device);
+    SDL_ClearQueuedAudio(device);
+    SDL_QueueAudio(device, samples.data(), static_cast<Uint32>(samples.size()));
+    SDL_UnlockAudioDevice(device);
+    SDL_PauseAudioDevice(device, 0);
+    const auto bytes = static_cast<std::int64_t>(samples.size());
+    rest_at =
+        Clock::now() + quiet_time + std::chrono::milliseconds(bytes * 1000 / wave::BytesPerSecond);
+    return true;
+}
+
+void WaveDevice::Close() {
+    if (!started) return;
+    if (device != 0) SDL_CloseAudioDevice(device);
+    SDL_Quit();
+    device = 0;
+    started = false;
+}
+
+}  // namespace corvanda

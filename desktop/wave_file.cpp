@@ -1,0 +1,68 @@
+#include "desktop/wave_file.h"
+
+#include <SDL.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <memory>
+
+namespace corvanda::wave {
+
+namespace {
+
+constexpr qint64 largest_file = 32 << 20;
+constexpr qint64 largest_sound = 128 << 20;
+// Rates below are no sound, and would blow a small damaged file up to an enormous one.
+constexpr int lowest_rate = 1000;
+
+struct Decoded {
+    SDL_AudioSpec spec{};
+    std::unique_ptr<Uint8, void (*)(Uint8*)> bytes{nullptr, SDL_FreeWAV};
+    Uint32 length = 0;
+};
+
+QByteArray ReadBytes(const QString& name) {
+    QFile file(name);
+    // A pipe or a device might never end.
+    if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) return {};
+    const QByteArray bytes = file.read(largest_file + 1);
+    return bytes.size() > largest_file ? QByteArray() : bytes;
+}
+
+std::optional<Decoded> Decode(const QByteArray& file) {
+    SDL_RWops* source = SDL_RWFromConstMem(file.constData(), static_cast<int>(file.size()));
+    if (source == nullptr) return {};
+    Decoded decoded;
+    Uint8* bytes = nullptr;
+    if (SDL_LoadWAV_RW(source, 1, &decoded.spec, &bytes, &decoded.length) == nullptr) return {};
+    decoded.bytes.reset(bytes);
+    return decoded;
+}
+
+std::optional<Samples> Convert(const Decoded& decoded) {
+    const SDL_AudioSpec& spec = decoded.spec;
+    SDL_AudioCVT plan;
+    if (spec.freq < lowest_rate || SDL_BuildAudioCVT(&plan, spec.format, spec.channels, spec.freq,
+                                                     AUDIO_S16SYS, Channels, Rate) < 0)
+        return {};
+    const qint64 room = static_cast<qint64>(decoded.length) * plan.len_mult;
+    if (room > largest_sound) return {};
+    Samples samples(static_cast<std::size_t>(room));
+    std::copy_n(decoded.bytes.get(), decoded.length, samples.begin());
+    plan.buf = samples.data();
+    plan.len = static_cast<int>(decoded.length);
+    plan.len_cvt = plan.len;
+    if (plan.needed != 0 && SDL_ConvertAudio(&plan) != 0) return {};
+    samples.resize(static_cast<std::size_t>(plan.len_cvt));
+    return samples;
+}
+
+}  // namespace
+
+std::optional<Samples> ReadWaveFile(const QString& file) {
+    const QByteArray bytes = ReadBytes(file);
+    const auto decoded = Decode(bytes);
+    return decoded ? Convert(*decoded) : std::nullopt;
+}
+
+}  // namespace corvanda::wave

@@ -1,0 +1,55 @@
+// Plays wave files, one at a time.
+//
+// Everything that can wait for a file or for the sound server happens in one worker thread, so that
+// a server that hangs or dies never holds up the windows. Called by the game's sound effects and by
+// the main window's start-up, GUI thread only.
+//
+// A file that is missing, unreadable, larger than 32 MiB, damaged or of an unknown coding is
+// replaced by the system beep. A device that cannot be opened is silence.
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <memory>
+#include <thread>
+
+#include "runtime/ports.h"
+
+namespace corvanda {
+
+class WaveWorker;
+
+class SdlWaveOut final : public WaveOut {
+  public:
+    /// `folder` is the program's folder as App::Path gives it; sounds are addressed below it.
+    /// `beep` sounds the system beep, always in the GUI thread.
+    explicit SdlWaveOut(std::string folder, std::function<void()> beep = SystemBeep);
+    /// Cuts off what still plays. A worker that the sound server does not let go within a second is
+    /// left behind; it touches nothing of this object any more.
+    ~SdlWaveOut() override;
+    SdlWaveOut(const SdlWaveOut&) = delete;
+    SdlWaveOut& operator=(const SdlWaveOut&) = delete;
+
+    /// Begins to count the devices beside the caller, so that the answer is there when it is asked
+    /// for. Calling it is a matter of speed only.
+    void LookForDevices();
+
+    void sndPlaySound(const std::string& path) override;
+    /// Counts the devices, once in a run. A server that does not answer within a second and a half
+    /// counts as none.
+    unsigned waveOutGetNumDevs() override;
+    void Beep() override;
+
+  private:
+    static void SystemBeep();
+    WaveWorker& Worker();
+
+    std::string folder;
+    std::function<void()> beep;
+    bool asked = false;  ///< for the number of devices
+    QObject ear;         ///< receives the worker's wish for a beep in the GUI thread
+    std::shared_ptr<WaveWorker> worker;
+    std::jthread thread;
+};
+
+}  // namespace corvanda

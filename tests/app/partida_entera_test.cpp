@@ -1,0 +1,203 @@
+// The program put together, in this process: whole games by mouse and keys, from the menu to the
+// winner's box, and ends that come in the middle of something.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QStandardPaths>
+#include <QTest>
+#include <csignal>
+
+#include "app/aplicacion.h"
+#include "desktop/settings_file.h"
+#include "tests/apoyo/diario.h"
+#include "tests/ui/ventana.h"
+
+namespace corvanda::pruebas {
+namespace {
+
+/// Repeatable chance: the time of day has no say.
+struct Azar_Fijo final : RandomNumbers {
+    explicit Azar_Fijo(std::uint32_t semilla) : azar(semilla) {}
+    double Rnd() override { return azar.Rnd(); }
+    void Randomize() override {}
+    Random azar;
+};
+
+void Guardar_Ajustes(const std::string& nivel, const std::string& velocidad) {
+    SettingsFile almacen;
+    const std::string aplicacion = ProgramFolder().Path() + "\\Corvanda.Ini";
+    almacen.SaveSetting(aplicacion, "Config", "Nivel", nivel);
+    almacen.SaveSetting(aplicacion, "Config", "Velocidad", velocidad);
+    ASSERT_EQ(almacen.Commit(), "");
+}
+
+QByteArray Ajustes_Guardados() {
+    QFile archivo(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                  "/corvanda/settings.json");
+    return archivo.open(QIODevice::ReadOnly) ? archivo.readAll() : QByteArray();
+}
+
+/// The program with its main window in front and somebody who answers what it says.
+class Sesion {
+  public:
+    explicit Sesion(std::uint32_t semilla) : azar(semilla), programa(azar) {
+        programa.Mostrar_Principal();
+        const auto en_frente = [this] {
+            if (programa.Ventana().isActiveWindow()) return true;
+            QWidget* otra = QApplication::activeWindow();
+            if (otra != nullptr) QTest::keyClick(otra, Qt::Key_Space);  // the start-up screen
+            return false;
+        };
+        EXPECT_TRUE(QTest::qWaitFor(en_frente, 20000));
+        vigilante.Siempre([this](QWidget& ventana) { Contestar(ventana); });
+    }
+
+    /// Plays for both sides, or for White against the computer, up to the winner's box.
+    void Jugar(const char* entrada) {
+        raton.Elegir("mnuGame", entrada);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return Estado().Jugando == True; }, 60000));
+        for (acciones = 0; Estado().Jugando != False && acciones < 3000; ++acciones) {
+            Jugar_Una();
+            ASSERT_TRUE(Es_Valida(Estado())) << Texto(Estado());
+        }
+    }
+
+    const Partida& Estado() { return programa.Estado(); }
+
+    Azar_Fijo azar;
+    Aplicacion programa;
+    Vigilante vigilante;
+    Raton_De_Pruebas raton{programa.Ventana()};
+    int acciones = 0;
+
+  private:
+    void Jugar_Una() {
+        const Jugada jugada = Elegir(Estado());
+        if (jugada.clase == Jugada::Clase::Pasar) {
+            QTest::keyClick(&programa.Ventana(), Qt::Key_F9);
+        } else {
+            raton.Arrastrar(Agarre(Estado(), jugada), Meta(Estado(), jugada));
+        }
+    }
+    void Contestar(QWidget& ventana) {
+        if (ventana.objectName() == "FrmVolado") return Sortear(ventana);
+        Pulsar(ventana, "OK");
+    }
+};
+
+/// The boxes of a game: passes, and the winner's at its end.
+void Comprobar_Cajas(const std::vector<std::string>& cajas) {
+    ASSERT_FALSE(cajas.empty());
+    EXPECT_TRUE(cajas.back() == GANA_BLANCA || cajas.back() == GANA_CAFE) << cajas.back();
+    for (std::size_t i = 0; i + 1 < cajas.size(); ++i) {
+        EXPECT_TRUE(cajas[i].starts_with("caja 64 [Corvanda] The player with ") &&
+                    cajas[i].ends_with(" chips passed"))
+            << cajas[i];
+    }
+}
+
+TEST(Partida_Entera, by_two_people_at_one_mouse) {
+    Guardar_Ajustes("Avanzado", "0");
+    for (const std::uint32_t semilla : {1U, 2U, 3U}) {
+        Sesion sesion(semilla);
+        sesion.Jugar("mnuNew");
+        Comprobar_Cajas(sesion.vigilante.cajas);
+        EXPECT_GT(sesion.acciones, 60);
+        EXPECT_EQ(sesion.Estado().Nivel, DOS_PERSONAS);
+    }
+}
+
+TEST(Partida_Entera, against_the_computer_at_each_level) {
+    const struct {
+        const char* nivel;
+        const char* velocidad;
+        Byte Nivel;
+    } tabla[] = {
+        {"Principiante", "0", PRINCIPIANTE},
+        {"Avanzado", "0", AVANZADO},
+        {"Avanzado", "7", AVANZADO},  // long enough for its chips to glide
+    };
+    for (const auto& fila : tabla) {
+        SCOPED_TRACE(std::string(fila.nivel) + " " + fila.velocidad);
+        Guardar_Ajustes(fila.nivel, fila.velocidad);
+        Sesion sesion(5);
+        sesion.Jugar("mnuVs");
+        Comprobar_Cajas(sesion.vigilante.cajas);
+        EXPECT_EQ(sesion.Estado().Nivel, fila.Nivel);
+        const int lejos = Pila_En(sesion.Estado(), BANDEJA_CAFE).Cuenta() +
+                          Pila_En(sesion.Estado(), BANDEJA_BLANCA).Cuenta();
+        EXPECT_GE(lejos, FICHAS);
+    }
+}
+
+TEST(Sesion, a_new_game_again_and_again_in_the_middle_of_the_computers_turn) {
+    Guardar_Ajustes("Avanzado", "3");
+    Sesion sesion(9);
+    FrmPrincipal& ventana = sesion.programa.Ventana();
+    int veces = 0;
+    QTimer impaciente;
+    QObject::connect(&impaciente, &QTimer::timeout, [&] {
+        if (veces < 6 && ventana.Mesa().Computadora_Juega() && ++veces > 0) {
+            QTest::keyClick(&ventana, Qt::Key_C, Qt::ControlModifier);
+        }
+    });
+    impaciente.start(17);
+    sesion.Jugar("mnuVs");
+    EXPECT_EQ(veces, 6);
+    Comprobar_Cajas(sesion.vigilante.cajas);
+}
+
+TEST(Sesion, the_system_ends_it_in_the_middle_of_anything) {
+    const struct {
+        const char* que;
+        std::function<void(Sesion&)> empieza;
+    } tabla[] = {
+        {"a message",
+         [](Sesion& s) {
+             s.raton.Pulsar({1200, 500});
+         }},
+        {"the start-player dialog", [](Sesion& s) { s.programa.Ventana().mnuNew_Click(); }},
+        {"the throw for the computer",
+         [](Sesion& s) {
+             s.vigilante.Esperar([](QWidget& dialogo) {
+                 std::raise(SIGTERM);
+                 QTest::keyClick(&dialogo, Qt::Key_Return);
+             });
+             s.programa.Ventana().mnuVs_Click();
+         }},
+        {"the speed dialog", [](Sesion& s) { s.programa.Ventana().mnuVel_Click(); }},
+        {"the question", [](Sesion& s) { s.programa.Ventana().close(); }},
+        {"a question about the help", [](Sesion& s) { s.programa.Ventana().mnuIndice_Click(); }},
+        {"the computer's turn",
+         [](Sesion& s) {
+             s.vigilante.Siempre(Sortear);
+             const auto toca = [&s] { return s.programa.Ventana().Mesa().Computadora_Juega(); };
+             QTimer aviso;
+             QObject::connect(&aviso, &QTimer::timeout, [&] {
+                 if (toca()) std::raise(SIGTERM);
+             });
+             aviso.start(5);
+             for (int i = 0; i < 20 && !s.programa.Ventana().Mesa().Cerrando(); ++i) {
+                 s.programa.Ventana().mnuVs_Click();
+             }
+         }},
+    };
+    for (const auto& fila : tabla) {
+        SCOPED_TRACE(fila.que);
+        Guardar_Ajustes("Avanzado", "50");
+        const QByteArray antes = Ajustes_Guardados();
+        Sesion sesion(11);
+        sesion.vigilante.Siempre([](QWidget&) { std::raise(SIGTERM); });
+        bool volvio = false;
+        QTimer::singleShot(0, [&] {
+            fila.empieza(sesion);
+            volvio = true;
+        });
+        EXPECT_EQ(QApplication::exec(), 0);
+        EXPECT_TRUE(volvio) << "nothing is left on the stack";
+        EXPECT_EQ(Ajustes_Guardados(), antes);
+    }
+}
+
+}  // namespace
+}  // namespace corvanda::pruebas

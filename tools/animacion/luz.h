@@ -1,0 +1,11 @@
+// How the scene looks through the camera: one picture of the film.
+#pragma once
+
+#include <QImage>
+
+namespace animacion {
+
+/// The picture that is exposed from one moment of the loop to another, 0 to 1.
+QImage Fotografiar(QSize tamano, double desde, double hasta);
+
+}  // namespace animacion
