@@ -57,7 +57,8 @@ std::optional<Command> Parse(const std::string& text) {
     for (const Form& form : forms) {
         if (verb != QLatin1String(form.word)) continue;
         const auto numbers = Match(WordsOf(QLatin1String(form.rest)), rest);
-        if (numbers) return Command{form.verb, line.mid(opening + 1, closing - opening - 1), *numbers};
+        if (numbers)
+            return Command{form.verb, line.mid(opening + 1, closing - opening - 1), *numbers};
     }
     return {};
 }

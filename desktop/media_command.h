@@ -15,7 +15,7 @@ enum class Verb { Open, Window, Put, Status, Seek, Play, Close };
 
 struct Command {
     Verb verb;
-    QString name;                 ///< as it stands between the quotes
+    QString name;                  ///< as it stands between the quotes
     std::vector<quint64> numbers;  ///< in the order of the text
 };
 

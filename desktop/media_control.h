@@ -29,8 +29,7 @@ class QtMediaControl final : public MediaControl {
 
     /// `pixels` is how many logical pixels make one of the layout's, in which destinations are
     /// given.
-    QtMediaControl(std::string folder, double pixels)
-        : folder(std::move(folder)), pixels(pixels) {}
+    QtMediaControl(std::string folder, double pixels) : folder(std::move(folder)), pixels(pixels) {}
 
     long mciSendString(const std::string& command, std::string& reply) override;
 

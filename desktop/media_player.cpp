@@ -35,7 +35,9 @@ Player::Player(Film film) : film(std::move(film)) {
     connect(&clock, &QTimer::timeout, this, &Player::Advance);
 }
 
-Player::~Player() { delete screen.data(); }
+Player::~Player() {
+    delete screen.data();
+}
 
 void Player::SetWindow(QWidget* widget) {
     delete screen.data();
@@ -69,11 +71,13 @@ bool Player::Seek(quint64 frame) {
     return true;
 }
 
-// The picture whose time it is, so that a late tick leaves pictures out instead of slowing the film.
+// The picture whose time it is, so that a late tick leaves pictures out instead of slowing the
+// film.
 void Player::Advance() {
     const qint64 microseconds = since.nsecsElapsed() / 1000;
     const auto passed = (microseconds + film.microseconds / 2) / film.microseconds;
-    const std::size_t now = std::min(started_at + static_cast<std::size_t>(passed), film.frames.size());
+    const std::size_t now =
+        std::min(started_at + static_cast<std::size_t>(passed), film.frames.size());
     if (now == film.frames.size() || !screen) clock.stop();
     if (now == position) return;
     position = now;

@@ -45,8 +45,8 @@ class Player final : public QObject {
     QPointer<Screen> screen;
     QRect destination;
     QTimer clock;
-    QElapsedTimer since;        ///< runs from the start of the playing
-    std::size_t position = 0;   ///< the picture that is next to end; at the end their number
+    QElapsedTimer since;       ///< runs from the start of the playing
+    std::size_t position = 0;  ///< the picture that is next to end; at the end their number
     std::size_t started_at = 0;
 };
 

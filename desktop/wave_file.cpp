@@ -16,7 +16,7 @@ constexpr qint64 largest_sound = 128 << 20;
 constexpr int lowest_rate = 1000;
 
 struct Decoded {
-    SDL_AudioSpec spec{};
+    SDL_AudioSpec kind{};
     std::unique_ptr<Uint8, void (*)(Uint8*)> bytes{nullptr, SDL_FreeWAV};
     Uint32 length = 0;
 };
@@ -34,15 +34,15 @@ std::optional<Decoded> Decode(const QByteArray& file) {
     if (source == nullptr) return {};
     Decoded decoded;
     Uint8* bytes = nullptr;
-    if (SDL_LoadWAV_RW(source, 1, &decoded.spec, &bytes, &decoded.length) == nullptr) return {};
+    if (SDL_LoadWAV_RW(source, 1, &decoded.kind, &bytes, &decoded.length) == nullptr) return {};
     decoded.bytes.reset(bytes);
     return decoded;
 }
 
 std::optional<Samples> Convert(const Decoded& decoded) {
-    const SDL_AudioSpec& spec = decoded.spec;
+    const SDL_AudioSpec& kind = decoded.kind;
     SDL_AudioCVT plan;
-    if (spec.freq < lowest_rate || SDL_BuildAudioCVT(&plan, spec.format, spec.channels, spec.freq,
+    if (kind.freq < lowest_rate || SDL_BuildAudioCVT(&plan, kind.format, kind.channels, kind.freq,
                                                      AUDIO_S16SYS, Channels, Rate) < 0)
         return {};
     const qint64 room = static_cast<qint64>(decoded.length) * plan.len_mult;

@@ -15,9 +15,9 @@ namespace corvanda {
 
 namespace {
 
-constexpr int LATIDO = 100;       // milliseconds
+constexpr int LATIDO = 100;  // milliseconds
 constexpr Integer ULTIMA_VEZ = 30;
-constexpr double LETRA = 12;      // points
+constexpr double LETRA = 12;        // points
 constexpr double CORRIMIENTO = 30;  // twips between the two copies of a text
 
 constexpr const char* AVISO = "© 2026 The Corvanda authors\nauthors@corvanda.example";
@@ -163,7 +163,9 @@ void FrmAbout::Mostrar_Direccion() {
 }
 
 // The desktop may give the window another size than the screen has.
-void FrmAbout::resizeEvent(QResizeEvent* /*evento*/) { Centrar(width()); }
+void FrmAbout::resizeEvent(QResizeEvent* /*evento*/) {
+    Centrar(width());
+}
 
 void FrmAbout::Timer1_Timer() {
     Veces = static_cast<Integer>(Veces + 1);
@@ -201,7 +203,9 @@ void FrmAbout::Replay(const std::string& nombre) {
     Mandar("Play " + nombre);
 }
 
-void FrmAbout::Close_Avi(const std::string& nombre) { Mandar("Close " + nombre); }
+void FrmAbout::Close_Avi(const std::string& nombre) {
+    Mandar("Close " + nombre);
+}
 
 // What closes it
 

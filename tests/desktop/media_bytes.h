@@ -61,7 +61,8 @@ inline void WriteBytes(const QString& name, const QByteArray& bytes) {
 }
 
 inline bool Resembles(const QColor& seen, const QColor& wanted) {
-    return std::abs(seen.red() - wanted.red()) < 12 && std::abs(seen.green() - wanted.green()) < 12 &&
+    return std::abs(seen.red() - wanted.red()) < 12 &&
+           std::abs(seen.green() - wanted.green()) < 12 &&
            std::abs(seen.blue() - wanted.blue()) < 12;
 }
 

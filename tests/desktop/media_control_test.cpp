@@ -197,14 +197,17 @@ class MediaDamageTest : public MediaControlTest {
 
 TEST_F(MediaDamageTest, files_that_are_cut_off) {
     const QByteArray good = FilmBytes();
-    for (int i = 0; i <= 8; ++i) Try(good.left(good.size() * i / 8), "eighths " + std::to_string(i));
+    for (int i = 0; i <= 8; ++i)
+        Try(good.left(good.size() * i / 8), "eighths " + std::to_string(i));
     for (int i = 0; i < 120; ++i) Try(good.left(i), "bytes " + std::to_string(i));
 }
 
 TEST_F(MediaDamageTest, files_with_random_damage) {
     std::mt19937 random(20240229);
     const QByteArray good = FilmBytes();
-    const auto below = [&](qsizetype n) { return static_cast<qsizetype>(random() % static_cast<unsigned>(n)); };
+    const auto below = [&](qsizetype n) {
+        return static_cast<qsizetype>(random() % static_cast<unsigned>(n));
+    };
     for (int round = 0; round < 200; ++round) {
         QByteArray bytes = good;
         // Every other time in the first bytes, where the structure is.

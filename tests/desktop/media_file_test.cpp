@@ -31,11 +31,11 @@ class MediaFileTest : public testing::Test {
         for (std::size_t i = 0; i < film->frames.size(); ++i) {
             const QImage image = media::Decode(*film, i);
             const QColor color = image.isNull() ? QColor() : image.pixelColor(5, 5);
-            letters += image.isNull()                  ? '-'
-                       : Resembles(color, Qt::red)     ? 'r'
-                       : Resembles(color, Qt::green)   ? 'g'
-                       : Resembles(color, Qt::blue)    ? 'b'
-                                                       : '?';
+            letters += image.isNull()                ? '-'
+                       : Resembles(color, Qt::red)   ? 'r'
+                       : Resembles(color, Qt::green) ? 'g'
+                       : Resembles(color, Qt::blue)  ? 'b'
+                                                     : '?';
         }
         return letters;
     }
@@ -53,14 +53,19 @@ TEST_F(MediaFileTest, pictures_are_found_wherever_writers_put_them) {
     } table[] = {
         {"one after the other", AviBytes(50'000, r + g + b), "rgb"},
         {"sound between them", AviBytes(50'000, sound + r + sound + g + b), "rgb"},
-        {"in groups", AviBytes(50'000, ListChunk("LIST", "rec ", r + sound) +
-                                           ListChunk("LIST", "rec ", g) + b), "rgb"},
+        {"in groups",
+         AviBytes(50'000, ListChunk("LIST", "rec ", r + sound) + ListChunk("LIST", "rec ", g) + b),
+         "rgb"},
         {"an empty chunk repeats", AviBytes(50'000, r + Chunk("00dc", {}) + b), "rrb"},
-        {"a second stream is left out", AviBytes(50'000, r + Chunk("02dc", JpegBytes(Qt::blue)) + g), "rg"},
-        {"a picture in between is damaged", AviBytes(50'000, r + Chunk("00dc", "no picture") + b), "r-b"},
+        {"a second stream is left out",
+         AviBytes(50'000, r + Chunk("02dc", JpegBytes(Qt::blue)) + g), "rg"},
+        {"a picture in between is damaged", AviBytes(50'000, r + Chunk("00dc", "no picture") + b),
+         "r-b"},
         {"something before the pictures",
-         ListChunk("RIFF", "AVI ", Header(50'000) + Chunk("JUNK", QByteArray(1001, '\0')) +
-                                       ListChunk("LIST", "movi", r)), "r"},
+         ListChunk(
+             "RIFF", "AVI ",
+             Header(50'000) + Chunk("JUNK", QByteArray(1001, '\0')) + ListChunk("LIST", "movi", r)),
+         "r"},
         {"an index after them", AviBytes(50'000, g) + Chunk("idx1", QByteArray(16, '\1')), "g"},
     };
     for (const auto& row : table) EXPECT_EQ(Colors(row.bytes), row.colors) << row.what;
@@ -146,9 +151,11 @@ TEST_F(MediaFileTest, the_games_own_film) {
         // It stands in a black window without a border.
         int brightest = 0;
         for (int x = 0; x < 200; ++x)
-            for (const int y : {0, 149}) brightest = std::max(brightest, image.pixelColor(x, y).lightness());
+            for (const int y : {0, 149})
+                brightest = std::max(brightest, image.pixelColor(x, y).lightness());
         for (int y = 0; y < 150; ++y)
-            for (const int x : {0, 199}) brightest = std::max(brightest, image.pixelColor(x, y).lightness());
+            for (const int x : {0, 199})
+                brightest = std::max(brightest, image.pixelColor(x, y).lightness());
         EXPECT_LT(brightest, 16) << i;
     }
 }

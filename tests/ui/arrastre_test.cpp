@@ -29,7 +29,7 @@ double Luz(const QImage& imagen, QPoint lugar) {
     return qGray(imagen.pixel(lugar));
 }
 
-TEST(Arrastre, a_drop_is_what_lies_in_front_under_the_pointer) {
+TEST(Raton, a_drop_is_what_lies_in_front_under_the_pointer) {
     constexpr int NADA = -9;  // nothing changes
     const char* inicio = "dice 5 4";
     const char* sola = "B 11x12 | C 15x1 23x2 | dice 5 4";
@@ -82,7 +82,7 @@ TEST(Arrastre, a_drop_is_what_lies_in_front_under_the_pointer) {
     }
 }
 
-TEST(Arrastre, a_press_anywhere_on_a_stack_takes_its_top_chip_which_follows_the_pointer) {
+TEST(Raton, a_press_anywhere_on_a_stack_takes_its_top_chip_which_follows_the_pointer) {
     Ventana v;
     v.Poner("dice 5 4");
     const Lugar abajo = v.Centro({Blanca, 8});  // the second from below
@@ -114,7 +114,7 @@ TEST(Arrastre, a_press_anywhere_on_a_stack_takes_its_top_chip_which_follows_the_
     EXPECT_FALSE(v.Flotante().isVisible()) << "an accepted chip stands at once";
 }
 
-TEST(Arrastre, a_refused_chip_glides_back_while_the_next_is_taken) {
+TEST(Raton, a_refused_chip_glides_back_while_the_next_is_taken) {
     Ventana v;
     v.Poner("dice 5 4");
     v.escritorio.Dados({1, 2});
@@ -131,7 +131,7 @@ TEST(Arrastre, a_refused_chip_glides_back_while_the_next_is_taken) {
     EXPECT_FALSE(v.Flotante().isVisible());
 }
 
-TEST(Arrastre, ends_without_effect_when_something_comes_between) {
+TEST(Raton, ends_without_effect_when_something_comes_between) {
     const struct {
         const char* que;
         std::function<void(Ventana&)> ocurre;
@@ -191,7 +191,7 @@ TEST(Arrastre, ends_without_effect_when_something_comes_between) {
     }
 }
 
-TEST(Arrastre, only_the_left_button_takes_a_chip_and_drops_it) {
+TEST(Raton, only_the_left_button_takes_a_chip_and_drops_it) {
     Ventana v;
     v.Poner("dice 5 4");
     for (const auto boton : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
@@ -212,7 +212,7 @@ TEST(Arrastre, only_the_left_button_takes_a_chip_and_drops_it) {
     EXPECT_EQ(Pila_En(v.partida, 15).Tope(), 11);
 }
 
-TEST(Arrastre, a_refused_press_says_why_in_a_box_over_the_window) {
+TEST(Raton, a_refused_press_says_why_in_a_box_over_the_window) {
     const struct {
         const char* posicion;  // nullptr before the first game
         Control presionada;
@@ -243,7 +243,7 @@ TEST(Arrastre, a_refused_press_says_why_in_a_box_over_the_window) {
     }
 }
 
-TEST(Arrastre, the_pointer_is_a_hand_over_chips_that_can_be_taken) {
+TEST(Raton, the_pointer_is_a_hand_over_chips_that_can_be_taken) {
     Ventana v;
     v.Poner("B 11x5 bar2 | C 5x5 12x5 23x2 bar1 | dice 5 4 | home BC");
     const auto es_mano = [&v](Lugar lugar) {

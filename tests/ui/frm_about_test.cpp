@@ -94,9 +94,9 @@ TEST_F(AcercaTest, only_a_stopped_film_is_played_again) {
         long fallo;
         Diario ordenes;
     } tabla[] = {
-        {"stopped", 0, otra_vez}, {"Seeking", 0, otra_vez}, {"s", 0, otra_vez},
-        {"playing", 0, nada_mas}, {"paused", 0, nada_mas},  {"not ready", 0, nada_mas},
-        {" stopped", 0, nada_mas}, {"", 263, nada_mas},     {"", 0, nada_mas},
+        {"stopped", 0, otra_vez},  {"Seeking", 0, otra_vez}, {"s", 0, otra_vez},
+        {"playing", 0, nada_mas},  {"paused", 0, nada_mas},  {"not ready", 0, nada_mas},
+        {" stopped", 0, nada_mas}, {"", 263, nada_mas},      {"", 0, nada_mas},
     };
     for (const auto& fila : tabla) {
         cine.estado = fila.estado;
@@ -177,9 +177,9 @@ TEST_F(AcercaTest, a_click_closes_it_everywhere_but_on_a_text) {
         bool direccion;
         bool cierra;
     } tabla[] = {
-        {"Image1", false, true},    {"Image2", false, true},   {"Picture1", false, true},
-        {"", false, true},          {"Label1", false, false},  {"Label5", false, false},
-        {"lblDisp1", false, true},  {"lblDisp1", true, false}, {"lblDisp2", true, false},
+        {"Image1", false, true},   {"Image2", false, true},   {"Picture1", false, true},
+        {"", false, true},         {"Label1", false, false},  {"Label5", false, false},
+        {"lblDisp1", false, true}, {"lblDisp1", true, false}, {"lblDisp2", true, false},
     };
     for (const auto& fila : tabla) {
         veces_mostrada = 0;
@@ -212,13 +212,26 @@ TEST_F(AcercaTest, a_key_that_types_a_character_closes_it) {
         Qt::KeyboardModifiers con;
         bool cierra;
     } tabla[] = {
-        {Qt::Key_Return, {}, true},    {Qt::Key_Escape, {}, true}, {Qt::Key_Space, {}, true},
-        {Qt::Key_A, {}, true},         {Qt::Key_7, {}, true},      {Qt::Key_Enter, Qt::KeypadModifier, true},
-        {Qt::Key_Backspace, {}, true}, {Qt::Key_Tab, {}, true},    {Qt::Key_A, Qt::ShiftModifier, true},
-        {Qt::Key_Shift, {}, false},    {Qt::Key_Left, {}, false},  {Qt::Key_F1, {}, false},
-        {Qt::Key_Control, {}, false},  {Qt::Key_Home, {}, false},  {Qt::Key_PageDown, {}, false},
-        {Qt::Key_Delete, {}, false},   {Qt::Key_F12, {}, false},   {Qt::Key_A, Qt::AltModifier, false},
-        {Qt::Key_CapsLock, {}, false}, {Qt::Key_Insert, {}, false},
+        {Qt::Key_Return, {}, true},
+        {Qt::Key_Escape, {}, true},
+        {Qt::Key_Space, {}, true},
+        {Qt::Key_A, {}, true},
+        {Qt::Key_7, {}, true},
+        {Qt::Key_Enter, Qt::KeypadModifier, true},
+        {Qt::Key_Backspace, {}, true},
+        {Qt::Key_Tab, {}, true},
+        {Qt::Key_A, Qt::ShiftModifier, true},
+        {Qt::Key_Shift, {}, false},
+        {Qt::Key_Left, {}, false},
+        {Qt::Key_F1, {}, false},
+        {Qt::Key_Control, {}, false},
+        {Qt::Key_Home, {}, false},
+        {Qt::Key_PageDown, {}, false},
+        {Qt::Key_Delete, {}, false},
+        {Qt::Key_F12, {}, false},
+        {Qt::Key_A, Qt::AltModifier, false},
+        {Qt::Key_CapsLock, {}, false},
+        {Qt::Key_Insert, {}, false},
     };
     for (const auto& fila : tabla) {
         veces_mostrada = 0;
@@ -287,7 +300,8 @@ TEST_F(AcercaTest, of_each_pair_of_texts_the_grey_one_lies_over_the_white_one) {
     FrmAbout& ventana = Mostrar();
     ventana.Mostrar_Direccion();
     const auto orden = ventana.children();
-    const std::pair<const char*, const char*> pares[] = {{"Label5", "Label1"}, {"lblDisp1", "lblDisp2"}};
+    const std::pair<const char*, const char*> pares[] = {{"Label5", "Label1"},
+                                                         {"lblDisp1", "lblDisp2"}};
     for (const auto& [debajo, encima] : pares) {
         const auto* blanca = De<QLabel>(debajo);
         const auto* gris = De<QLabel>(encima);

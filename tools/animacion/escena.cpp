@@ -15,7 +15,7 @@ constexpr double BORDE = 0.80;   // inside it the face lies deeper
 
 constexpr double LADO = 0.40;  // half a die
 constexpr double ESQUINA = 0.11;
-constexpr double HOYO = 0.082;   // radius of a pip
+constexpr double HOYO = 0.082;     // radius of a pip
 constexpr double ALEJADO = 0.205;  // pips beside the middle
 
 double Surco(double r, double donde, double ancho) {
@@ -35,8 +35,8 @@ double Distancia_A_Ficha(Vec p) {
     const double z = std::abs(p.z);
     const double dx = r - (1 - CANTO);
     const double dz = z - (GRUESO - CANTO);
-    const double losa = std::hypot(std::max(dx, 0.0), std::max(dz, 0.0)) +
-                        std::min(std::max(dx, dz), 0.0) - CANTO;
+    const double losa =
+        std::hypot(std::max(dx, 0.0), std::max(dz, 0.0)) + std::min(std::max(dx, dz), 0.0) - CANTO;
     return std::max(losa, (z - Altura_De_La_Cara(r)) * 0.75);
 }
 

@@ -22,12 +22,18 @@ const Vec COLOR_DEL_CIELO{0.17, 0.18, 0.20};
 
 Vec Color(Materia materia) {
     switch (materia) {
-        case Materia::Pano: return {0.014, 0.062, 0.043};
-        case Materia::Marfil: return {0.76, 0.60, 0.36};
-        case Materia::Nogal: return {0.080, 0.032, 0.016};
-        case Materia::Filete: return {0.58, 0.30, 0.11};
-        case Materia::Punto: return {0.028, 0.013, 0.009};
-        default: return {};
+        case Materia::Pano:
+            return {0.014, 0.062, 0.043};
+        case Materia::Marfil:
+            return {0.76, 0.60, 0.36};
+        case Materia::Nogal:
+            return {0.080, 0.032, 0.016};
+        case Materia::Filete:
+            return {0.58, 0.30, 0.11};
+        case Materia::Punto:
+            return {0.028, 0.013, 0.009};
+        default:
+            return {};
     }
 }
 

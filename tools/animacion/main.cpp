@@ -33,7 +33,8 @@ bool Filmar(const QString& archivo) {
     }
     const QByteArray bytes = animacion::Pelicula(fotos, TAMANO, POR_SEGUNDO);
     QFile salida(archivo);
-    return salida.open(QIODevice::WriteOnly) && salida.write(bytes) == bytes.size() && salida.flush();
+    return salida.open(QIODevice::WriteOnly) && salida.write(bytes) == bytes.size() &&
+           salida.flush();
 }
 
 }  // namespace

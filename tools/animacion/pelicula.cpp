@@ -17,7 +17,9 @@ QByteArray Numeros(std::initializer_list<qsizetype> numeros) {
 }
 
 // Two numbers of 16 bits in the place of one of 32.
-qsizetype Par(qsizetype bajo, qsizetype alto) { return bajo | (alto << 16); }
+qsizetype Par(qsizetype bajo, qsizetype alto) {
+    return bajo | (alto << 16);
+}
 
 QByteArray Trozo(const char* nombre, const QByteArray& cuerpo) {
     QByteArray trozo = nombre + Numeros({cuerpo.size()}) + cuerpo;
@@ -45,15 +47,14 @@ QByteArray Pelicula(const std::vector<QByteArray>& fotos, QSize tamano, int foto
     const qsizetype ancho = tamano.width();
     const qsizetype alto = tamano.height();
     constexpr qsizetype CON_INDICE = 0x10;
-    const QByteArray avih =
-        Numeros({1000000 / fotos_por_segundo, mayor * fotos_por_segundo, 0, CON_INDICE, cuantas, 0,
-                 1, mayor, ancho, alto, 0, 0, 0, 0});
+    const QByteArray avih = Numeros({1000000 / fotos_por_segundo, mayor * fotos_por_segundo, 0,
+                                     CON_INDICE, cuantas, 0, 1, mayor, ancho, alto, 0, 0, 0, 0});
     const QByteArray strh = "vidsMJPG" + Numeros({0, 0, 0, 1, fotos_por_segundo, 0, cuantas, mayor,
                                                   -1, 0, 0, Par(ancho, alto)});
-    const QByteArray strf = Numeros({40, ancho, alto, Par(1, 24)}) + "MJPG" +
-                            Numeros({ancho * alto * 3, 0, 0, 0, 0});
-    const QByteArray cabeza =
-        Lista("hdrl", Trozo("avih", avih) + Lista("strl", Trozo("strh", strh) + Trozo("strf", strf)));
+    const QByteArray strf =
+        Numeros({40, ancho, alto, Par(1, 24)}) + "MJPG" + Numeros({ancho * alto * 3, 0, 0, 0, 0});
+    const QByteArray cabeza = Lista(
+        "hdrl", Trozo("avih", avih) + Lista("strl", Trozo("strh", strh) + Trozo("strf", strf)));
     return Lista("AVI ", cabeza + Lista("movi", trozos) + Trozo("idx1", indice), "RIFF");
 }
 

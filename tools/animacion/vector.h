@@ -10,17 +10,33 @@ struct Vec {
     double x = 0, y = 0, z = 0;
 };
 
-inline Vec operator+(Vec a, Vec b) { return {a.x + b.x, a.y + b.y, a.z + b.z}; }
-inline Vec operator-(Vec a, Vec b) { return {a.x - b.x, a.y - b.y, a.z - b.z}; }
-inline Vec operator*(Vec a, double k) { return {a.x * k, a.y * k, a.z * k}; }
-inline Vec operator*(Vec a, Vec b) { return {a.x * b.x, a.y * b.y, a.z * b.z}; }
-inline double Punto(Vec a, Vec b) { return a.x * b.x + a.y * b.y + a.z * b.z; }
-inline double Largo(Vec a) { return std::sqrt(Punto(a, a)); }
-inline Vec Unidad(Vec a) { return a * (1 / Largo(a)); }
+inline Vec operator+(Vec a, Vec b) {
+    return {a.x + b.x, a.y + b.y, a.z + b.z};
+}
+inline Vec operator-(Vec a, Vec b) {
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+}
+inline Vec operator*(Vec a, double k) {
+    return {a.x * k, a.y * k, a.z * k};
+}
+inline Vec operator*(Vec a, Vec b) {
+    return {a.x * b.x, a.y * b.y, a.z * b.z};
+}
+inline double Punto(Vec a, Vec b) {
+    return a.x * b.x + a.y * b.y + a.z * b.z;
+}
+inline double Largo(Vec a) {
+    return std::sqrt(Punto(a, a));
+}
+inline Vec Unidad(Vec a) {
+    return a * (1 / Largo(a));
+}
 inline Vec Cruz(Vec a, Vec b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
-inline Vec Mezcla(Vec a, Vec b, double k) { return a * (1 - k) + b * k; }
+inline Vec Mezcla(Vec a, Vec b, double k) {
+    return a * (1 - k) + b * k;
+}
 
 inline double Escalon(double desde, double hasta, double x) {
     const double t = std::clamp((x - desde) / (hasta - desde), 0.0, 1.0);
