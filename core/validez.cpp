@@ -82,7 +82,7 @@ class Revision {
         const Arreglo color = punto.Owner == BLANCA ? Arreglo::Blanca : Arreglo::Cafe;
         const Single left = partida.Triangle.at(static_cast<std::size_t>(p)).Left;
         Single y = Base(p);
-        for (Integer item = static_cast<Integer>(pila.Cuenta() - 1); item >= 0; --item) {
+        for (auto item = static_cast<Integer>(pila.Cuenta() - 1); item >= 0; --item) {
             Ver_Ficha(color, pila.Ficha(item), left, y, true);
             y = Siguiente(p, y);
         }

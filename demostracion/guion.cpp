@@ -79,8 +79,8 @@ void Guion::Elegir_Menu(const char* menu, const char* entrada) {
     QThread::msleep(RESPIRO / 2);
     QPoint lugar;
     En_La_Ventana([&] {
-        QMenu* abierto = programa.Ventana().findChild<QMenu*>(menu);
-        QAction* accion = programa.Ventana().findChild<QAction*>(entrada);
+        auto* abierto = programa.Ventana().findChild<QMenu*>(menu);
+        auto* accion = programa.Ventana().findChild<QAction*>(entrada);
         lugar = abierto->mapToGlobal(abierto->actionGeometry(accion).center()) *
                 abierto->devicePixelRatioF();
     });
@@ -172,7 +172,7 @@ QString Guion::Jugar_Una() {
 
 QString Guion::Jugar_Varias(int cuantas) {
     for (int i = 0; i < cuantas && !ganada; ++i) {
-        const QString falta = Jugar_Una();
+        QString falta = Jugar_Una();
         if (!falta.isEmpty()) return falta;
         bool en_casa = false;
         En_La_Ventana([&] { en_casa = programa.Estado().Blanca_En_Casa != False; });
@@ -186,7 +186,7 @@ QString Guion::Salir() {
     QPoint lugar;
     En_La_Ventana([&] {
         QMenuBar* barra = programa.Ventana().menuBar();
-        QAction* salir = programa.Ventana().findChild<QAction*>("mnuSalir");
+        auto* salir = programa.Ventana().findChild<QAction*>("mnuSalir");
         lugar =
             barra->mapToGlobal(barra->actionGeometry(salir).center()) * barra->devicePixelRatioF();
     });

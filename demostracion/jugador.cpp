@@ -99,7 +99,7 @@ Lugar Meta(const Partida& partida, const Jugada& jugada) {
     const Control control =
         saca ? Control{Arreglo::Adios, bandeja} : Control{Arreglo::Triangle, jugada.destino};
     const Image& imagen = *Imagen_De(partida, control);
-    const double x = static_cast<double>(imagen.Left + imagen.Width / 2);
+    const auto x = static_cast<double>(imagen.Left + imagen.Width / 2);
     const bool arriba = !saca && jugada.destino < 12;
     return {x, arriba ? static_cast<double>(imagen.Top) + ORILLA
                       : static_cast<double>(imagen.Top + imagen.Height) - ORILLA};

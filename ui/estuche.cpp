@@ -70,11 +70,11 @@ QRectF Estuche::Lugar(const Image& imagen) const {
     const auto rejilla = [&](double twips) {
         return std::round(escala.Pixeles(twips) * ratio) / ratio;
     };
-    const double left = static_cast<double>(imagen.Left);
-    const double top = static_cast<double>(imagen.Top);
+    const auto left = static_cast<double>(imagen.Left);
+    const auto top = static_cast<double>(imagen.Top);
     const QPointF esquina(rejilla(left), rejilla(top));
-    const double width = static_cast<double>(imagen.Width);
-    const double height = static_cast<double>(imagen.Height);
+    const auto width = static_cast<double>(imagen.Width);
+    const auto height = static_cast<double>(imagen.Height);
     if (Es_Ficha_O_Dado(imagen.Shown)) return {esquina, QSizeF(rejilla(width), rejilla(height))};
     return {esquina, QPointF(rejilla(left + width), rejilla(top + height))};
 }

@@ -1,13 +1,17 @@
 #include "ui/frm_about.h"
 
+#include <QFutureWatcher>
+#include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPixmap>
+#include <QPromise>
 #include <QScreen>
 #include <QSvgRenderer>
+#include <QThreadPool>
 #include <cctype>
 #include <cstdint>
+#include <memory>
 
 #include "ui/dialogos.h"
 
@@ -26,30 +30,53 @@ constexpr const char* DIRECCION = "https://corvanda.example";
 const QColor BLANCO(Qt::white);
 const QColor GRIS(0x90, 0x90, 0x90, 0x60);  // lets the white copy under it be read
 
-// A picture from a file that fills its place, crisp on whatever screen it is shown.
+QImage Dibujar(const QString& archivo, QSize tamano) {
+    QImage lienzo(tamano, QImage::Format_ARGB32_Premultiplied);
+    lienzo.fill(Qt::transparent);
+    QSvgRenderer dibujo(archivo);
+    if (!dibujo.isValid()) return lienzo;
+    QPainter pintor(&lienzo);
+    dibujo.render(&pintor, QRectF(lienzo.rect()));
+    return lienzo;
+}
+
+// A picture from a file that fills its place, crisp on whatever screen it is shown. It is drawn in
+// the background, because on a large screen that takes longer than the film may wait for.
 class Lamina final : public QWidget {
   public:
-    Lamina(QWidget* padre, const QString& archivo) : QWidget(padre), dibujo(archivo) {}
+    Lamina(QWidget* padre, QString archivo) : QWidget(padre), archivo(std::move(archivo)) {
+        connect(&espera, &QFutureWatcher<QImage>::finished, this, qOverload<>(&QWidget::update));
+    }
+    // The worker has copies of all it needs, but the library under it must not be gone first.
+    ~Lamina() override { espera.waitForFinished(); }
+    Lamina(const Lamina&) = delete;
+    Lamina& operator=(const Lamina&) = delete;
 
   protected:
+    void resizeEvent(QResizeEvent* /*evento*/) override { Pedir(); }
+
     void paintEvent(QPaintEvent* /*evento*/) override {
-        const qreal ratio = devicePixelRatioF();
-        const QSize entera = (QSizeF(size()) * ratio).toSize();
-        if (hecha.size() != entera) Hacer(entera);
-        hecha.setDevicePixelRatio(ratio);
-        QPainter(this).drawPixmap(0, 0, hecha);
+        Pedir();
+        if (espera.future().resultCount() > 0) QPainter(this).drawImage(rect(), espera.result());
     }
 
   private:
-    void Hacer(QSize entera) {
-        hecha = QPixmap(entera);
-        hecha.fill(Qt::transparent);
-        QPainter pintor(&hecha);
-        if (dibujo.isValid()) dibujo.render(&pintor, QRectF(hecha.rect()));
+    void Pedir() {
+        const QSize tamano = (QSizeF(size()) * devicePixelRatioF()).toSize();
+        if (tamano == pedida || tamano.isEmpty()) return;
+        pedida = tamano;
+        const auto promesa = std::make_shared<QPromise<QImage>>();
+        espera.setFuture(promesa->future());
+        promesa->start();
+        QThreadPool::globalInstance()->start([promesa, tamano, de = archivo] {
+            promesa->addResult(Dibujar(de, tamano));
+            promesa->finish();
+        });
     }
 
-    QSvgRenderer dibujo;
-    QPixmap hecha;
+    QString archivo;
+    QSize pedida;
+    QFutureWatcher<QImage> espera;
 };
 
 // The hourglass, however the handler ends.

@@ -167,7 +167,7 @@ TEST(Sesion, the_system_ends_it_in_the_middle_of_anything) {
          }},
         {"the speed dialog", [](Sesion& s) { s.programa.Ventana().mnuVel_Click(); }},
         {"the question", [](Sesion& s) { s.programa.Ventana().close(); }},
-        {"a question about the help", [](Sesion& s) { s.programa.Ventana().mnuIndice_Click(); }},
+        {"the missing help file", [](Sesion& s) { s.programa.Ventana().mnuIndice_Click(); }},
         {"the computer's turn",
          [](Sesion& s) {
              s.vigilante.Siempre(Sortear);

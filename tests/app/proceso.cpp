@@ -12,7 +12,6 @@ namespace corvanda::pruebas {
 namespace {
 
 constexpr int PACIENCIA = 20000;  // milliseconds; the machine may be busy
-constexpr int APARICION = 400;    // milliseconds that the windows have to appear
 
 }  // namespace
 
@@ -60,11 +59,14 @@ bool Programa::Empezar() {
     // Looked at closely: what a test does next is to hit a moment of the start.
     const QDeadlineTimer plazo(PACIENCIA);
     while (!Escucha() && !plazo.hasExpired()) QThread::usleep(200);
+    desde.start();
     return Escucha();
 }
 
-bool Programa::Sigue_Viva() {
-    return !proceso.waitForFinished(APARICION) && proceso.state() == QProcess::Running;
+bool Programa::Sigue_Viva_A_Los(qint64 milisegundos) {
+    const qint64 faltan = milisegundos - desde.elapsed();
+    if (faltan > 0) QThread::msleep(static_cast<unsigned long>(faltan));
+    return !proceso.waitForFinished(0) && proceso.state() == QProcess::Running;
 }
 
 int Programa::Terminar(int senal) {

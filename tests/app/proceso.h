@@ -1,6 +1,7 @@
 // The program as a child process in a home of its own.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <csignal>
@@ -21,8 +22,10 @@ class Programa {
 
     /// Starts and returns as soon as the program listens to signals.
     bool Empezar();
-    /// Whether it still runs after its windows had the time to appear.
-    bool Sigue_Viva();
+    /// Whether it still runs so many milliseconds after it began to listen; waits until then.
+    bool Sigue_Viva_A_Los(qint64 milisegundos);
+    /// The same, when the main window has come after the start-up screen.
+    bool Llega_A_La_Ventana() { return Sigue_Viva_A_Los(4500); }
     /// Sends a signal and returns the exit status; -1 when it does not end, or not by itself.
     int Terminar(int senal = SIGTERM);
     int Esperar_Fin();
@@ -37,6 +40,7 @@ class Programa {
     QString carpeta;
     QProcessEnvironment entorno;
     QProcess proceso;
+    QElapsedTimer desde;  // it began to listen
 };
 
 }  // namespace corvanda::pruebas

@@ -6,32 +6,55 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QTest>
 #include <functional>
+#include <memory>
+#include <vector>
 
 #include "tests/app/proceso.h"
 
 namespace corvanda::pruebas {
 namespace {
 
-TEST(Programa, runs_until_the_system_ends_it_and_saves_nothing) {
+/// Programs that run side by side, because the start-up screen takes its time.
+using Programas = std::vector<std::unique_ptr<Programa>>;
+
+Programa& Otro(Programas& programas) {
+    return *programas.emplace_back(std::make_unique<Programa>());
+}
+
+/// Starts them all; each comes to its main window and ends with 0 when the system asks.
+void Comprobar_Que_Juegan(Programas& programas) {
+    for (const auto& programa : programas) ASSERT_TRUE(programa->Empezar());
+    for (std::size_t i = 0; i < programas.size(); ++i) {
+        EXPECT_TRUE(programas[i]->Llega_A_La_Ventana()) << "the number " << i;
+        EXPECT_EQ(programas[i]->Terminar(), 0) << "the number " << i;
+    }
+}
+
+TEST(Programa, ends_by_each_signal_and_saves_nothing) {
     for (const int senal : {SIGTERM, SIGINT, SIGHUP}) {
         Programa programa;
         ASSERT_TRUE(programa.Empezar());
-        EXPECT_TRUE(programa.Sigue_Viva());
+        EXPECT_TRUE(programa.Sigue_Viva_A_Los(300));
         EXPECT_EQ(programa.Terminar(senal), 0) << senal;
         EXPECT_FALSE(QFileInfo::exists(programa.Archivo_De_Ajustes()));
     }
 }
 
-// Each of these is a moment of the start: before the window, while it is painted first, after it.
+// Each of these is a moment of the start: before the first window, while that is painted, and while
+// the main window takes its place.
 TEST(Programa, ends_whenever_in_its_start_the_system_asks) {
     for (const int milisegundos : {0, 5, 20, 40, 80, 150}) {
         Programa programa;
         ASSERT_TRUE(programa.Empezar());
-        QTest::qSleep(milisegundos);
-        EXPECT_EQ(programa.Terminar(), 0)
-            << "asked " << milisegundos << " ms after it could listen";
+        programa.Sigue_Viva_A_Los(milisegundos);
+        EXPECT_EQ(programa.Terminar(), 0) << "after " << milisegundos << " ms";
+    }
+    Programas programas;
+    for (int i = 0; i < 6; ++i) ASSERT_TRUE(Otro(programas).Empezar());
+    for (int i = 0; i < 6; ++i) {
+        programas[static_cast<std::size_t>(i)]->Sigue_Viva_A_Los(2950 + 50 * i);
+        EXPECT_EQ(programas[static_cast<std::size_t>(i)]->Terminar(), 0) << i;
     }
 }
 
@@ -71,9 +94,9 @@ TEST(Programa, starts_and_stays_whatever_has_become_of_its_data_files) {
          [](QFile& archivo) { Escribir(archivo, Leer(archivo).left(48) + Ruido(1000)); }},
         {"not to be read", [](QFile& archivo) { archivo.setPermissions({}); }},
     };
+    Programas programas;
     for (const auto& fila : tabla) {
-        SCOPED_TRACE(fila.que);
-        Programa programa;
+        Programa& programa = Otro(programas);
         programa.Copiar();
         int cuantos = 0;
         QDirIterator archivos(programa.Carpeta(), QDir::Files, QDirIterator::Subdirectories);
@@ -83,11 +106,9 @@ TEST(Programa, starts_and_stays_whatever_has_become_of_its_data_files) {
             fila.dano(archivo);
             ++cuantos;
         }
-        EXPECT_GE(cuantos, 20);
-        ASSERT_TRUE(programa.Empezar());
-        EXPECT_TRUE(programa.Sigue_Viva());
-        EXPECT_EQ(programa.Terminar(), 0);
+        EXPECT_GE(cuantos, 20) << fila.que;
     }
+    Comprobar_Que_Juegan(programas);
 }
 
 TEST(Programa, starts_with_any_settings_file) {
@@ -111,14 +132,9 @@ TEST(Programa, starts_with_any_settings_file) {
         {"no folder at all",
          [](Programa& p) { p.Poner("XDG_CONFIG_HOME", "/nonexistent/folder"); }},
     };
-    for (const auto& fila : tabla) {
-        SCOPED_TRACE(fila.que);
-        Programa programa;
-        fila.prepara(programa);
-        ASSERT_TRUE(programa.Empezar());
-        EXPECT_TRUE(programa.Sigue_Viva());
-        EXPECT_EQ(programa.Terminar(), 0);
-    }
+    Programas programas;
+    for (const auto& fila : tabla) fila.prepara(Otro(programas));
+    Comprobar_Que_Juegan(programas);
 }
 
 }  // namespace

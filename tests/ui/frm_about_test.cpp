@@ -184,6 +184,7 @@ TEST_F(AcercaTest, a_click_closes_it_everywhere_but_on_a_text) {
     for (const auto& fila : tabla) {
         veces_mostrada = 0;
         FrmAbout& ventana = Mostrar();
+        ventana.resize(800, 700);  // the screen of a test may be too small for the texts
         if (fila.direccion) ventana.Mostrar_Direccion();
         const QPoint punto = *fila.donde ? De(fila.donde)->geometry().center() : QPoint(3, 300);
         QTest::mouseClick(ventana.windowHandle(), Qt::LeftButton, {}, punto);
@@ -193,6 +194,7 @@ TEST_F(AcercaTest, a_click_closes_it_everywhere_but_on_a_text) {
 
 TEST_F(AcercaTest, a_click_begins_and_ends_on_the_window) {
     FrmAbout& ventana = Mostrar();
+    ventana.resize(800, 700);
     const QPoint libre(3, 300);
     const QPoint texto = De("Label1")->geometry().center();
     for (const auto& [desde, hasta] : {std::pair(texto, libre), std::pair(libre, texto)}) {

@@ -125,8 +125,10 @@ void Fotografiar_Fila(QImage& foto, int y, const std::vector<Escena>& escenas) {
     for (int x = 0; x < foto.width(); ++x) {
         Vec suma;
         for (int i = 0; i < MUESTRAS * MUESTRAS; ++i) {
-            const double u = (x + (i % MUESTRAS + 0.5) / MUESTRAS) * 2 - foto.width();
-            const double v = alto - (y + (i / MUESTRAS + 0.5) / MUESTRAS) * 2;
+            const int columna = i % MUESTRAS;
+            const int renglon = i / MUESTRAS;
+            const double u = (x + (columna + 0.5) / MUESTRAS) * 2 - foto.width();
+            const double v = alto - (y + (renglon + 0.5) / MUESTRAS) * 2;
             // Each sample of a picture element has a moment of its own, not the same as its
             // neighbours', and together they blur what moves.
             const auto momento = static_cast<std::size_t>(i * 7 + x * 3 + y * 11) % escenas.size();
@@ -142,10 +144,12 @@ void Fotografiar_Fila(QImage& foto, int y, const std::vector<Escena>& escenas) {
 QImage Fotografiar(QSize tamano, double desde, double hasta) {
     std::vector<Escena> escenas;
     const int instantes = MUESTRAS * MUESTRAS;
+    escenas.reserve(instantes);
     for (int i = 0; i < instantes; ++i)
         escenas.emplace_back(desde + (hasta - desde) * (i + 0.5) / instantes);
     QImage foto(tamano, QImage::Format_RGB32);
     std::vector<std::thread> manos;
+    manos.reserve(2);
     for (int mano = 0; mano < 2; ++mano) {
         manos.emplace_back([&foto, &escenas, mano] {
             for (int y = mano; y < foto.height(); y += 2) Fotografiar_Fila(foto, y, escenas);
