@@ -43,9 +43,11 @@ void Aplicacion::Empezar() {
     inicio->show();
 }
 
-// The first showing loads the window; later ones find it where it is.
+// The first showing loads the window; later ones find it where it is. The start-up screen, whose
+// handler may be the caller, is not needed again.
 void Aplicacion::Mostrar_Principal() {
     if (!principal->isVisible()) principal->Form_Load();
+    if (inicio) inicio.release()->deleteLater();
 }
 
 void Aplicacion::Mostrar_Acerca() {

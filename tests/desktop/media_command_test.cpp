@@ -34,7 +34,7 @@ TEST(MediaCommandTest, commands_as_the_forms_send_them) {
 }
 
 TEST(MediaCommandTest, names_keep_every_character) {
-    for (const char* name : {"a", " a  b ", "say \"hello\"\\Corvanda.avi", "¿juegos?\\ñandú.avi",
+    for (const char* name : {"a", " a  b ", R"(say "hello"\Corvanda.avi)", "¿juegos?\\ñandú.avi",
                              "open wait", "tab\there"}) {
         const auto command = Parse(std::string("Play \"") + name + '"');
         ASSERT_TRUE(command) << name;
