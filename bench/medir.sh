@@ -10,8 +10,8 @@ set -u
 cd "$(dirname "$0")/.." || exit 2
 tools/instalar.sh build run test || exit 1
 source tools/construir.sh
-configurado release bench_nucleo bench_ventana corvanda || configurar release || exit 1
-compilar release bench_nucleo bench_ventana corvanda || exit 1
+configurado release bench_nucleo bench_pausa bench_ventana corvanda || configurar release || exit 1
+compilar release bench_nucleo bench_pausa bench_ventana corvanda || exit 1
 bin=build/release/bin
 
 work=$(mktemp -d)
@@ -55,6 +55,7 @@ measure() {
 }
 
 "$bin/bench_nucleo"
+"$bin/bench_pausa"
 "$bin/bench_ventana"
 measure "$bin/corvanda" 'Corvanda|Acerca'
 while [ $# -ge 2 ]; do measure "$1" "$2"; shift 2; done

@@ -6,7 +6,7 @@
 
 namespace corvanda {
 
-class Mudo final : public MessageBoxes,
+class Mudo : public MessageBoxes,
                    public EventLoop,
                    public MousePointer,
                    public RandomNumbers,

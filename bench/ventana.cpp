@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QMouseEvent>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -123,6 +124,10 @@ int main(int argc, char** argv) {
     QElapsedTimer reloj;
     reloj.start();
     const QApplication qt(argc, argv);
-    corvanda::Medir(reloj);
-    return 0;
+    // Inside the event loop, so that nothing that ends it can come before it.
+    QTimer::singleShot(0, [&reloj] {
+        corvanda::Medir(reloj);
+        QCoreApplication::exit(0);
+    });
+    return QApplication::exec();
 }

@@ -1,4 +1,5 @@
 // Which chip a press picks up, and what a drop on a point or on a chip means.
+#include "core/comprobada.h"
 #include "core/juego.h"
 
 namespace corvanda {
@@ -32,6 +33,7 @@ void Juego::Cafe_MouseDown(Integer Index, Integer Button) {
 }
 
 void Juego::Presionar(Integer color, Integer Index, Integer Button) {
+    const Comprobada accion(*this);
     const Image* ficha = Imagen_De(partida, {Fichas_De(color), Index});
     if (Button != LeftButton || ficha == nullptr || !ficha->Enabled || Entrada_Cerrada()) return;
     if (!Puede_Jugar(color)) {
@@ -85,6 +87,7 @@ void Juego::Cafe_DragDrop(Integer Index, Control Source) {
 // A drop on a chip is a drop on its point. A chip of the other colour may lie on a bar and stand
 // for a point that the mover holds itself: such a point is refused too when it has several chips.
 void Juego::Soltar_En_Ficha(Control blanco, Control fuente) {
+    const Comprobada accion(*this);
     const Image* imagen = Imagen_De(partida, blanco);
     if (imagen == nullptr || !Puede_Soltar(fuente)) return;
     const Integer destino = GetNumber(*imagen);
@@ -98,6 +101,7 @@ void Juego::Soltar_En_Ficha(Control blanco, Control fuente) {
 }
 
 void Juego::Soltar(Control fuente, Integer destino) {
+    const Comprobada accion(*this);
     if (!Puede_Soltar(fuente)) return;
     const Integer color = Color_De(fuente);
     if (Hacia_Atras(color, partida.Origen, destino)) {

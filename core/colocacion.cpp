@@ -2,27 +2,11 @@
 // beginning of a game.
 #include <utility>
 
+#include "core/comprobada.h"
 #include "core/juego.h"
+#include "runtime/hourglass.h"
 
 namespace corvanda {
-
-namespace {
-
-/// The hourglass for as long as a procedure runs.
-class Reloj_De_Arena {
-  public:
-    explicit Reloj_De_Arena(MousePointer& puntero) : puntero(puntero) {
-        puntero.SetShape(PointerShape::Hourglass);
-    }
-    ~Reloj_De_Arena() { puntero.SetShape(PointerShape::Default); }
-    Reloj_De_Arena(const Reloj_De_Arena&) = delete;
-    Reloj_De_Arena& operator=(const Reloj_De_Arena&) = delete;
-
-  private:
-    MousePointer& puntero;
-};
-
-}  // namespace
 
 Juego::Juego(Partida& partida, const Puertos& puertos, Oponente* computadora)
     : partida(partida), puertos(puertos), computadora(computadora) {}
@@ -99,7 +83,8 @@ void Juego::Colocar_Fichas() {
 }
 
 void Juego::Ordenar() {
-    const Reloj_De_Arena reloj(puertos.Puntero);
+    const Comprobada accion(*this);
+    const Hourglass reloj(puertos.Puntero);
     vigencia.Empezar_Otra();
     puertos.Tablero.Cancelar_Arrastre();
     Despejar();

@@ -1,4 +1,5 @@
 // The dice and the hand-over of the turn.
+#include "core/comprobada.h"
 #include "core/juego.h"
 #include "runtime/conversion.h"
 
@@ -22,6 +23,7 @@ class Dentro {
 
 void Juego::Tirar_Dados() {
     if (Cerrando()) return;
+    const Comprobada accion(*this);
     {
         const Dentro dentro(profundidad);
         if (Rodar()) Jugar_Computadora();

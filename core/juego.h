@@ -105,6 +105,10 @@ class Juego {
     /// For a procedure that lets events run: see vigencia.h.
     const Vigencia& Reglas() const { return vigencia; }
 
+    /// Whether a roll that no move preceded has begun and not ended: a die may still show what it
+    /// showed before, so the position need not be valid.
+    bool A_Medio_Tirar() const { return sin_entrada; }
+
     const Partida& Estado() const { return partida; }
     /// For the computer, which says where its chip comes from before each move.
     void Poner_Origen(Integer origen) { partida.Origen = origen; }

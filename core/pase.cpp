@@ -2,11 +2,13 @@
 // the bar and plain moves between points, not bearing off.
 #include <algorithm>
 
+#include "core/comprobada.h"
 #include "core/juego.h"
 
 namespace corvanda {
 
 void Juego::mnuPasar_Click() {
+    const Comprobada accion(*this);
     if (partida.Jugando == False || Entrada_Cerrada()) return;
     const Integer mayor = std::max(partida.Dado1, partida.Dado2);
     const Integer menor = std::min(partida.Dado1, partida.Dado2);

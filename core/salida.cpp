@@ -1,6 +1,7 @@
 // Bearing off, and the end of a game.
 #include <cstdlib>
 
+#include "core/comprobada.h"
 #include "core/juego.h"
 #include "runtime/conversion.h"
 
@@ -21,6 +22,7 @@ Integer Pila_De_Bandeja(Integer color) {
 }  // namespace
 
 void Juego::Adios_DragDrop(Integer Index, Control Source) {
+    const Comprobada accion(*this);
     if (!Puede_Soltar(Source)) return;
     const bool propia = Index == Bandeja_De(partida.Turno);
     const auto fuera = static_cast<Integer>(Index == 1 ? PUNTOS : -1);

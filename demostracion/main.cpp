@@ -45,8 +45,14 @@ int main(int argc, char** argv) {
     QObject::connect(actor.get(), &QThread::finished, &programa, [&] {
         if (!falta.isEmpty()) QCoreApplication::exit(1);
     });
-    programa.Mostrar_Principal();
-    actor->start();
+    // Inside the event loop, so that nothing that ends it can come before it.
+    QMetaObject::invokeMethod(
+        &programa,
+        [&] {
+            programa.Mostrar_Principal();
+            actor->start();
+        },
+        Qt::QueuedConnection);
     const int fin = QApplication::exec();
     while (!actor->wait(10)) QApplication::processEvents();
     if (!falta.isEmpty()) QTextStream(stderr) << "demostracion: " << falta << '\n';

@@ -2,7 +2,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QStyle>
 #include <memory>
 
 namespace corvanda {
@@ -43,6 +46,20 @@ void AddButtons(QMessageBox& box, bool question) {
     }
 }
 
+// A box that is narrower than its title has it cut by the window's frame. How wide the frame draws
+// it only the desktop knows; most draw it bold, between an icon and up to three buttons.
+void WidenToTitle(QMessageBox& box) {
+    QFont bold = box.font();
+    bold.setBold(true);
+    const int buttons = 5 * box.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const int title = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + buttons;
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid == nullptr) return;
+    const QMargins margins = grid->contentsMargins();
+    grid->addItem(new QSpacerItem(title - margins.left() - margins.right(), 0), grid->rowCount(), 0,
+                  1, grid->columnCount());
+}
+
 }  // namespace
 
 QtMessageBoxes::QtMessageBoxes(QtMousePointer& pointer) : pointer(pointer) {
@@ -72,6 +89,7 @@ Integer QtMessageBoxes::MsgBox(const std::string& text, Integer style, const std
     box->setWindowTitle(QString::fromStdString(title));
     box->setText(QString::fromStdString(text));
     AddButtons(*box, question);
+    WidenToTitle(*box);
     const int pressed = box->exec();
     delete box.data();
     return pressed == QMessageBox::Yes ? button::Yes : otherwise;

@@ -36,8 +36,9 @@ bool WaveDevice::Start() {
 }
 
 bool WaveDevice::Open() {
-    if (!Start()) return false;
     if (device != 0) return true;
+    // Opening what is not there makes the libraries below complain on the terminal at every sound.
+    if (Count() == 0) return false;
     SDL_AudioSpec wanted{};
     wanted.freq = wave::Rate;
     wanted.format = AUDIO_S16SYS;

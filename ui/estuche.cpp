@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -46,6 +47,8 @@ Estuche::Estuche(const Partida& partida, const Escala& escala, Estampas& estampa
     const QPixmap dibujo = estampas.Suelta("mano", lado, devicePixelRatioF());
     mano = dibujo.isNull() ? QCursor(Qt::OpenHandCursor)
                            : QCursor(dibujo, lado * 16 / 32, lado * 18 / 32);
+    renovacion.setSingleShot(true);
+    connect(&renovacion, &QTimer::timeout, this, &Estuche::Renovar_Puntero);
     Preparar_Estampas();
 }
 
@@ -182,6 +185,7 @@ void Estuche::Refrescar(Control control, const Image& antes) {
     const Image& ahora = *Imagen_De(partida, control);
     update(Lugar(antes).toAlignedRect());
     update(Lugar(ahora).toAlignedRect());
+    renovacion.start(0);
     const bool movida = antes.Left != ahora.Left || antes.Top != ahora.Top;
     if (!movida || !Recibe_Presiones(control.Nombre)) return;
     Refrescar_Pila_De(antes);
@@ -272,7 +276,8 @@ void Estuche::Devolver() {
     const Control ficha = std::exchange(soltando, Control{});
     const Image* imagen = Imagen_De(partida, ficha);
     if (imagen == nullptr) return;
-    flotante.Deslizar(pos() + Lugar(*imagen).topLeft(), REGRESO, [this, ficha] {
+    const int milisegundos = Sin_Movimiento() ? 0 : REGRESO;
+    flotante.Deslizar(pos() + Lugar(*imagen).topLeft(), milisegundos, [this, ficha] {
         flotante.hide();
         if (oculta == ficha) Mostrar_Oculta();
     });
@@ -281,7 +286,7 @@ void Estuche::Devolver() {
 // A chip that moved by itself glides from its old place; its new place stays free until it comes.
 void Estuche::Volar(Control ficha, const Image& antes) {
     const int milisegundos = preguntas.vuelo_de(ficha);
-    if (milisegundos <= 0 || arrastre) return;
+    if (milisegundos <= 0 || arrastre || Sin_Movimiento()) return;
     const Image& ahora = *Imagen_De(partida, ficha);
     flotante.Aparecer(Estampa_De(ahora), pos() + Lugar(antes).topLeft());
     Ocultar(ficha, 0);
@@ -289,6 +294,16 @@ void Estuche::Volar(Control ficha, const Image& antes) {
         flotante.hide();
         if (oculta == ficha) Mostrar_Oculta();
     });
+}
+
+// Whether the desktop asks for no animations.
+bool Estuche::Sin_Movimiento() const {
+    return style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
+}
+
+// What lies under the pointer may have changed, or whose turn it is, without a move of the mouse.
+void Estuche::Renovar_Puntero() {
+    if (underMouse() && !arrastre) Actualizar_Puntero(mapFromGlobal(QCursor::pos()));
 }
 
 void Estuche::Actualizar_Puntero(QPointF lugar) {

@@ -2,6 +2,7 @@
 // chips, and shows a chip that is dragged or glides. It holds no rule and no copy of the state.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <optional>
@@ -78,6 +79,8 @@ class Estuche final : public QWidget, public Pantalla {
     void Ocultar(Control ficha, qreal opacidad);
     void Mostrar_Oculta();
     void Actualizar_Puntero(QPointF lugar);
+    void Renovar_Puntero();
+    bool Sin_Movimiento() const;
     void Preparar_Estampas();
 
     const Partida& partida;
@@ -86,6 +89,8 @@ class Estuche final : public QWidget, public Pantalla {
     Preguntas preguntas;
     FichaFlotante flotante;
     QCursor mano;
+
+    QTimer renovacion;  // of the pointer, once the handler that changed something has ended
 
     std::optional<Arrastre> arrastre;
     QPointF pulsado;   // where the button went down

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "runtime/hourglass.h"
 #include "ui/dialogos.h"
 
 namespace corvanda {
@@ -77,20 +78,6 @@ class Lamina final : public QWidget {
     QString archivo;
     QSize pedida;
     QFutureWatcher<QImage> espera;
-};
-
-// The hourglass, however the handler ends.
-class Reloj_De_Arena {
-  public:
-    explicit Reloj_De_Arena(MousePointer& puntero) : puntero(puntero) {
-        puntero.SetShape(PointerShape::Hourglass);
-    }
-    ~Reloj_De_Arena() { puntero.SetShape(PointerShape::Default); }
-    Reloj_De_Arena(const Reloj_De_Arena&) = delete;
-    Reloj_De_Arena& operator=(const Reloj_De_Arena&) = delete;
-
-  private:
-    MousePointer& puntero;
 };
 
 void Ennegrecer(QWidget& control) {
@@ -169,7 +156,7 @@ void FrmAbout::Centrar(int ancho) {
 }
 
 void FrmAbout::Form_Load() {
-    const Reloj_De_Arena reloj(servicios.Puntero);
+    const Hourglass reloj(servicios.Puntero);
     const QRect pantalla = screen()->geometry();
     setGeometry(pantalla);
     setWindowState(Qt::WindowFullScreen);
@@ -203,7 +190,7 @@ void FrmAbout::Timer1_Timer() {
 // Showing the main window for the first time lets events run, and any of them may come back here.
 void FrmAbout::Close_About() {
     if (descargada) return;
-    const Reloj_De_Arena reloj(servicios.Puntero);
+    const Hourglass reloj(servicios.Puntero);
     Form_Unload();
     done(QDialog::Accepted);
     principal();

@@ -3,7 +3,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
-#include <QStyle>
 #include <algorithm>
 
 #include "ui/form1.h"
@@ -110,8 +109,7 @@ void FrmPrincipal::Conectar_Tablero() {
 int FrmPrincipal::Vuelo_De(Control ficha) const {
     if (!juego.Computadora_Juega() || ficha.Nombre != Arreglo::Cafe) return 0;
     const int pausa = partida.Velocidad * CICLO;
-    const bool quieto = style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
-    if (quieto || pausa < PAUSA_SIN_VUELO) return 0;
+    if (pausa < PAUSA_SIN_VUELO) return 0;
     return std::min(VUELO_MAS_LARGO, pausa / 2);
 }
 
