@@ -6,18 +6,20 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QLockFile>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QStandardPaths>
 #include <cerrno>
 #include <filesystem>
+
+#include "desktop/folder_lock.h"
 
 namespace corvanda {
 
 namespace {
 
 constexpr qint64 largest_file = 1 << 20;
-constexpr int lock_patience_ms = 2000;
+constexpr std::chrono::seconds lock_patience{2};
 
 constexpr QLatin1StringView no_room("there is no room left on the disk");
 constexpr QLatin1StringView no_folder("the folder cannot be written");
@@ -48,14 +50,15 @@ QString Followed(const QString& name) {
     return info.isSymLink() ? info.symLinkTarget() : name;
 }
 
-QString WhyNoLock(const QLockFile& lock) {
-    switch (lock.error()) {
-        case QLockFile::LockFailedError:
-            return locked;
-        case QLockFile::PermissionError:
-            return no_folder;
-        default:
-            return no_room;
+/// What a program that was killed between its first byte and its last has left beside the file.
+/// Only whoever holds the lock may ask for this.
+void SweepUp(const QString& name) {
+    static const QRegularExpression leftover(QStringLiteral("\\.[A-Za-z]{6}$"));
+    const QFileInfo info(name);
+    const QStringList beside =
+        info.dir().entryList({info.fileName() + QStringLiteral(".??????")}, QDir::Files);
+    for (const QString& each : beside) {
+        if (each.contains(leftover)) QFile::remove(info.dir().filePath(each));
     }
 }
 
@@ -131,8 +134,9 @@ QString SettingsFile::Write() {
     const QString target = Followed(file);
     if (!QDir().mkpath(QFileInfo(target).path())) return no_folder;
     // Another copy of the program may be between its reading and its writing just now.
-    QLockFile lock(target + QStringLiteral(".lock"));
-    if (!lock.tryLock(lock_patience_ms)) return WhyNoLock(lock);
+    const FolderLock lock(QFileInfo(target).path(), lock_patience);
+    if (!lock.Held()) return locked;
+    SweepUp(target);
     Contents contents = ReadContents(target);
     Merge(contents.all);
     const QByteArray bytes = QJsonDocument(contents.all).toJson();

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -29,19 +30,30 @@ inline constexpr const char* HACIA_ATRAS =
 inline constexpr const char* GANA_BLANCA = "caja 48 [¡ You Win !] The player with White Chips Won";
 inline constexpr const char* GANA_CAFE = "caja 48 [¡ You Win !] The player with Brown Chips won";
 
-/// A computer whose turns are written by the test; it counts them and how deep they nest.
+/// The journal of some sounds and a box. With the effects off the error sound is a beep and only
+/// the applause is heard.
+inline Diario Se_Oye(Boolean efectos, const std::string& sonidos, const std::string& caja = "") {
+    Diario lineas;
+    std::istringstream nombres(sonidos);
+    for (std::string nombre; nombres >> nombre;) {
+        if (efectos != False || nombre == "applaus") {
+            lineas.push_back(Suena(nombre));
+        } else if (nombre == "strike") {
+            lineas.emplace_back(BIP);
+        }
+    }
+    if (!caja.empty()) lineas.push_back(caja);
+    return lineas;
+}
+
+/// A computer whose turns are written by the test; it counts them.
 struct Guion : Oponente {
     void Tirar_Computer(Juego& juego) override {
         ++turnos;
-        hondura = std::max(hondura, ++dentro);
-        const auto este = turno;  // the test may write the next turn while this one runs
-        if (este) este(juego);
-        --dentro;
+        if (turno) turno(juego);
     }
     std::function<void(Juego&)> turno;
     int turnos = 0;
-    int dentro = 0;
-    int hondura = 0;
 };
 
 }  // namespace corvanda::pruebas

@@ -8,6 +8,7 @@
 #include <map>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "core/juego.h"
@@ -31,52 +32,73 @@ class Escritorio final : public MessageBoxes,
     std::vector<std::string> diario;
 
     /// The journal since the last call.
-    std::vector<std::string> Leer();
+    std::vector<std::string> Leer() { return std::exchange(diario, {}); }
 
     /// The next box is answered with this button; `mientras` runs while it is open.
-    void Contestar(Integer boton = button::Ok, Accion mientras = {});
-    /// Every box is answered with Ok, for random games.
+    void Contestar(Integer boton = button::Ok, Accion mientras = {}) {
+        respuestas.emplace_back(boton, std::move(mientras));
+    }
+    /// Every box is answered with Ok.
     void Contestar_Siempre() { contesta_siempre = true; }
     bool Respuestas_Gastadas() const { return respuestas.empty(); }
 
     /// The next throws of dice give these faces.
-    void Dados(std::initializer_list<int> caras);
+    void Dados(std::initializer_list<int> caras) {
+        for (const int cara : caras) azares.push_back((cara - 1) / 5.0);
+    }
     /// The next random numbers themselves.
-    void Azares(std::initializer_list<double> numeros);
+    void Azares(std::initializer_list<double> r) { azares.insert(azares.end(), r); }
     /// All further random numbers come from a seeded generator.
     void Sembrar(std::uint32_t semilla) { generador.emplace(semilla); }
 
     /// Runs an action in the n-th pass of the event loop from now (1 is the next).
-    void En_El_Pase(int n, Accion accion);
+    void En_El_Pase(int n, Accion accion) { acciones.emplace(pases + n, std::move(accion)); }
     int Pases() const { return pases; }
     int Pases_De_Pausa() const { return pases_de_pausa; }
 
     /// What stands in the settings store, by application, section and key.
     std::map<std::tuple<std::string, std::string, std::string>, std::string> almacen;
-    std::string fallo_al_guardar;  ///< what Commit answers
-    unsigned dispositivos = 1;     ///< what waveOutGetNumDevs answers
-    std::vector<Control> refrescados;
+    std::string fallo_al_guardar;      ///< what Commit answers
+    unsigned dispositivos = 1;         ///< what waveOutGetNumDevs answers
+    std::vector<Control> refrescados;  ///< the images of which the board was told
 
     Integer MsgBox(const std::string& text, Integer style, const std::string& title) override;
     void DoEvents() override;
-    void DoEventsPaced() override;
-    void SetShape(PointerShape shape) override;
+    void DoEventsPaced() override {
+        ++pases_de_pausa;
+        DoEvents();
+    }
+    void SetShape(PointerShape shape) override {
+        reloj_de_arena = shape == PointerShape::Hourglass;
+        diario.emplace_back(reloj_de_arena ? "puntero reloj" : "puntero normal");
+    }
     double Rnd() override;
-    void Randomize() override;
-    void sndPlaySound(const std::string& path) override;
+    void Randomize() override { diario.emplace_back("siembra"); }
+    void sndPlaySound(const std::string& path) override { diario.push_back("sonido " + path); }
     unsigned waveOutGetNumDevs() override { return dispositivos; }
-    void Beep() override;
+    void Beep() override { diario.emplace_back("bip"); }
     std::string GetSetting(const std::string& application, const std::string& section,
-                           const std::string& key, const std::string& otherwise) override;
+                           const std::string& key, const std::string& otherwise) override {
+        const auto hallado = almacen.find({application, section, key});
+        return hallado == almacen.end() ? otherwise : hallado->second;
+    }
     void SaveSetting(const std::string& application, const std::string& section,
-                     const std::string& key, const std::string& value) override;
-    std::string Commit() override;
+                     const std::string& key, const std::string& value) override {
+        diario.push_back("guarda " + key + "=" + value);
+        almacen[{application, section, key}] = value;
+    }
+    std::string Commit() override {
+        diario.emplace_back("guarda todo");
+        return fallo_al_guardar;
+    }
     void WinHelp(const std::string& file, Integer command, Integer context) override;
     std::string Path() const override { return "/opt/juegos de mesa/corvanda"; }
     std::string EXEName() const override { return "corvanda"; }
-    void Refrescar(Control control, const Image& antes) override;
+    void Refrescar(Control control, const Image& /*antes*/) override {
+        refrescados.push_back(control);
+    }
     void Iniciar_Arrastre(Control ficha) override;
-    void Cancelar_Arrastre() override;
+    void Cancelar_Arrastre() override { arrastrada = {}; }
 
     Puertos Todos() { return {*this, *this, *this, *this, *this, *this, *this}; }
 
@@ -84,14 +106,7 @@ class Escritorio final : public MessageBoxes,
     Control arrastrada;           ///< the chip being dragged, Ninguno for none
 
   private:
-    struct Respuesta {
-        Integer boton;
-        Accion mientras;
-    };
-
-    void Correr_Acciones();
-
-    std::deque<Respuesta> respuestas;
+    std::deque<std::pair<Integer, Accion>> respuestas;
     bool contesta_siempre = false;
     std::deque<double> azares;
     std::optional<Random> generador;

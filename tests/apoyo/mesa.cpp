@@ -1,24 +1,35 @@
 #include "tests/apoyo/mesa.h"
 
 #include <sstream>
-#include <utility>
 
 namespace corvanda::pruebas {
 
-Control Mesa::Presionar(Control ficha, Integer boton) {
-    escritorio.arrastrada = {};
-    if (ficha.Nombre == Arreglo::Blanca) {
-        juego.Blanca_MouseDown(ficha.Index, boton);
-    } else {
-        juego.Cafe_MouseDown(ficha.Index, boton);
+namespace {
+
+Control Nombrado(const std::string& texto) {
+    const auto nombre = std::string("..PBCAD").find(texto[0]);  // in the order of Arreglo
+    if (nombre == std::string::npos) {
+        return {Arreglo::Triangle, static_cast<Integer>(std::stoi(texto))};
     }
-    return std::exchange(escritorio.arrastrada, {});
+    return {static_cast<Arreglo>(nombre), static_cast<Integer>(std::stoi(texto.substr(1)))};
 }
 
-Control Mesa::Tomar(Integer origen) {
-    const Arreglo fichas = partida.Turno == BLANCA ? Arreglo::Blanca : Arreglo::Cafe;
-    const Integer lugar = origen == ORIGEN_BARRA_BLANCA ? BARRA_BLANCA : origen;
-    return Presionar({fichas, Pila_En(partida, lugar).Tope()});
+}  // namespace
+
+Mesa::Mesa(const std::string& posicion, Oponente* computadora)
+    : juego(partida, escritorio.Todos(), computadora) {
+    juego.Cargar_Controles();
+    juego.Vestir_Tablero();
+    juego.Ordenar();
+    if (!posicion.empty()) Poner(juego, partida, posicion);
+    escritorio.Leer();
+}
+
+Control Mesa::Presionar(Control ficha, Integer boton) {
+    escritorio.arrastrada = {};
+    if (ficha.Nombre == Arreglo::Blanca) juego.Blanca_MouseDown(ficha.Index, boton);
+    if (ficha.Nombre == Arreglo::Cafe) juego.Cafe_MouseDown(ficha.Index, boton);
+    return escritorio.arrastrada;
 }
 
 void Mesa::Soltar(Control fuente, Control blanco) {
@@ -28,9 +39,21 @@ void Mesa::Soltar(Control fuente, Control blanco) {
     if (blanco.Nombre == Arreglo::Adios) juego.Adios_DragDrop(blanco.Index, fuente);
 }
 
-void Mesa::Jugar(Integer origen, Integer destino) {
-    const Control fuente = Tomar(origen);
-    if (fuente.Nombre != Arreglo::Ninguno) Soltar(fuente, {Arreglo::Triangle, destino});
+Control Mesa::Hacer(const std::string& accion) {
+    const auto corte = accion.find('/');
+    if (accion == "pass") {
+        juego.mnuPasar_Click();
+        return {};
+    }
+    if (corte == std::string::npos) return Presionar(Nombrado(accion));
+    const bool blanca = partida.Turno == BLANCA;
+    const int lugar = accion[0] != 'b' ? std::stoi(accion) : blanca ? BARRA_BLANCA : BARRA_CAFE;
+    const Integer tope = Pila_En(partida, static_cast<Integer>(lugar)).Tope();
+    const Control fuente = Presionar({blanca ? Arreglo::Blanca : Arreglo::Cafe, tope});
+    if (fuente.Nombre == Arreglo::Ninguno) return {};
+    escritorio.diario.pop_back();
+    Soltar(fuente, Nombrado(accion.substr(corte + 1)));
+    return fuente;
 }
 
 std::string Dados_De(const Partida& partida) {

@@ -8,27 +8,17 @@
 namespace corvanda::pruebas {
 
 struct Mesa {
-    explicit Mesa(Oponente* computadora = nullptr)
-        : juego(partida, escritorio.Todos(), computadora) {
-        juego.Cargar_Controles();
-        juego.Vestir_Tablero();
-        juego.Ordenar();
-        escritorio.Leer();
-    }
-    explicit Mesa(const std::string& posicion, Oponente* computadora = nullptr)
-        : Mesa(computadora) {
-        Poner(juego, partida, posicion);
-        escritorio.Leer();
-    }
+    /// Without a position the board is set up and no game runs.
+    explicit Mesa(const std::string& posicion = "", Oponente* computadora = nullptr);
 
     /// Presses a chip; returns the one that is dragged then, Arreglo::Ninguno for none.
     Control Presionar(Control ficha, Integer boton = LeftButton);
-    /// Presses the mover's top chip at a point or on its bar (a value of Origen).
-    Control Tomar(Integer origen);
     /// Drops a chip on a point, a chip or a tray.
     void Soltar(Control fuente, Control blanco);
-    /// Presses the top chip of a point, or of the mover's bar, and drops it on a point image.
-    void Jugar(Integer origen, Integer destino);
+    /// What hands do, as a text: "pass"; "B3" presses the white chip 3; "0/5" takes the mover's top
+    /// chip from point 0 and drops it on point 5. The first number may be "bar"; the second may be
+    /// a chip ("B3", "C3") or a tray ("A0" Brown's, "A1" White's). Returns what was picked up.
+    Control Hacer(const std::string& accion);
 
     Partida partida = Diseno();
     Escritorio escritorio;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <sstream>
 #include <vector>
 
@@ -12,133 +14,100 @@ namespace {
 struct Bando {
     Integer color;
     Arreglo fichas;
-    Integer barra;
-    Integer bandeja;
-    Single barra_left, barra_top;
-    Single bandeja_left, bandeja_top, paso;
+    Integer barra, bandeja;
+    Single barra_left, barra_top, bandeja_left, bandeja_top, paso;
 };
 
-constexpr Bando BLANCO{
-    BLANCA, Arreglo::Blanca, BARRA_BLANCA, BANDEJA_BLANCA, 255, 2257.5, 112.5, 3240, 151};
-constexpr Bando MARRON{CAFE, Arreglo::Cafe, BARRA_CAFE, BANDEJA_CAFE, 330, 3360, 150, 180, 157};
+constexpr Bando BANDOS[] = {
+    {BLANCA, Arreglo::Blanca, BARRA_BLANCA, BANDEJA_BLANCA, 255, 2257.5, 112.5, 3240, 151},
+    {CAFE, Arreglo::Cafe, BARRA_CAFE, BANDEJA_CAFE, 330, 3360, 150, 180, 157},
+};
 
-void Vaciar(Partida& partida) {
-    for (Pila& pila : partida.LST) pila.Vaciar();
-    for (Integer p = 0; p < PUNTOS; ++p) Punto_En(partida, p) = {p < 12 ? 300.0F : 5355.0F, NADIE};
+using Palabras = std::map<std::string, std::string>;
+
+// What a text says by the first word of each part, over what holds without a word.
+Palabras Leer(const std::string& texto) {
+    Palabras palabras{{"B", "0x2 18x5 11x5 16x3"},
+                      {"C", "23x2 5x5 12x5 7x3"},
+                      {"turn", "B"},
+                      {"dice", "1 2"},
+                      {"doubles", ""},
+                      {"home", ""}};
+    std::istringstream partes(texto);
+    for (std::string parte; std::getline(partes, parte, '|');) {
+        std::istringstream flujo(parte);
+        std::string clave;
+        flujo >> clave >> std::ws;
+        EXPECT_TRUE(palabras.contains(clave)) << "unknown word in a position: " << clave;
+        std::getline(flujo, palabras[clave]);
+    }
+    return palabras;
 }
 
-void Llevar(Partida& partida, const Bando& bando, Integer ficha, Single left, Single top,
-            bool enabled) {
-    Image& imagen = *Imagen_De(partida, {bando.fichas, ficha});
+void Dejar(Partida& partida, Control ficha, Integer lugar, Single left, Single top, bool enabled) {
+    Image& imagen = *Imagen_De(partida, ficha);
     imagen.Left = left;
     imagen.Top = top;
     imagen.Enabled = enabled;
     imagen.ZOrder = ++partida.Frente;
+    Pila_En(partida, lugar).Poner(ficha.Index);
 }
 
-void Sacar_Resto(Partida& partida, const Bando& bando, Integer ficha) {
+void Poner_Bando(Juego& juego, Partida& partida, const Bando& bando, const std::string& texto) {
+    Integer ficha = 0;
+    std::istringstream lugares(texto);
+    for (std::string lugar; lugares >> lugar;) {
+        const bool barra = lugar.starts_with("bar");
+        const int cuantas = std::stoi(lugar.substr(barra ? 3 : lugar.find('x') + 1));
+        for (int i = 0; i < cuantas; ++i, ++ficha) {
+            if (barra) {
+                Dejar(partida, {bando.fichas, ficha}, bando.barra, bando.barra_left,
+                      bando.barra_top, true);
+            } else {
+                juego.Mover(bando.color, ficha, static_cast<Integer>(std::stoi(lugar)));
+            }
+        }
+    }
     Integer& altura = bando.color == BLANCA ? partida.Altura_Blanca : partida.Altura_Cafe;
     for (; ficha < FICHAS; ++ficha) {
-        Llevar(partida, bando, ficha, bando.bandeja_left, bando.bandeja_top + altura, false);
-        Pila_En(partida, bando.bandeja).Poner(ficha);
+        Dejar(partida, {bando.fichas, ficha}, bando.bandeja, bando.bandeja_left,
+              bando.bandeja_top + altura, false);
         altura = static_cast<Integer>(altura + bando.paso);
     }
 }
 
-void Poner_Bando(Juego& juego, Partida& partida, const Bando& bando, std::istream& texto) {
-    Integer ficha = 0;
-    std::string lugar;
-    while (texto >> lugar) {
-        int cuantas = 0;
-        if (lugar.starts_with("bar")) {
-            cuantas = std::stoi(lugar.substr(3));
-            for (int i = 0; i < cuantas; ++i, ++ficha) {
-                Llevar(partida, bando, ficha, bando.barra_left, bando.barra_top, true);
-                Pila_En(partida, bando.barra).Poner(ficha);
-            }
-            continue;
-        }
-        const auto equis = lugar.find('x');
-        cuantas = std::stoi(lugar.substr(equis + 1));
-        const auto punto = static_cast<Integer>(std::stoi(lugar));
-        for (int i = 0; i < cuantas; ++i, ++ficha) juego.Mover(bando.color, ficha, punto);
+void Poner_Dados(Partida& partida, const std::string& caras, const std::string& dobles) {
+    std::istringstream(caras) >> partida.Dado1 >> partida.Dado2;
+    const std::array caras_de{partida.Dado1, partida.Dado2};
+    for (std::size_t i = 0; i < 2; ++i) {
+        partida.Dado.at(i).Visible = caras_de.at(i) != 0;
+        const auto muestra = static_cast<std::size_t>(std::max(caras_de.at(i) - 1, 0));
+        partida.Dado.at(i).Shown = partida.Dados.at(muestra).Shown;
     }
-    Sacar_Resto(partida, bando, ficha);
-}
-
-void Poner_Dados(Partida& partida, int primero, int segundo) {
-    const auto dado = [&partida](std::size_t cual, int valor, Integer& guardado) {
-        guardado = static_cast<Integer>(valor);
-        partida.Dado.at(cual).Visible = valor != 0;
-        if (valor != 0) {
-            partida.Dado.at(cual).Shown =
-                partida.Dados.at(static_cast<std::size_t>(valor - 1)).Shown;
-        }
-    };
-    dado(0, primero, partida.Dado1);
-    dado(1, segundo, partida.Dado2);
-    partida.Dobles = primero == segundo ? 2 : 0;
-}
-
-void Abrir_Casa(Partida& partida, bool blanca, bool cafe) {
-    partida.Blanca_En_Casa = blanca ? True : False;
-    partida.Cafe_En_Casa = cafe ? True : False;
-    partida.Adios[1].Visible = blanca;
-    partida.Adios[0].Visible = cafe;
-}
-
-std::vector<std::string> Partes(const std::string& texto) {
-    std::vector<std::string> partes;
-    std::istringstream flujo(texto);
-    for (std::string parte; std::getline(flujo, parte, '|');) partes.push_back(parte);
-    return partes;
+    const int quedan = partida.Dado1 == partida.Dado2 ? 2 : 0;
+    partida.Dobles = static_cast<Byte>(dobles.empty() ? quedan : std::stoi(dobles));
 }
 
 }  // namespace
 
 void Poner(Juego& juego, Partida& partida, const std::string& texto) {
+    Palabras palabras = Leer(texto);
     juego.Ordenar();
-    Vaciar(partida);
+    for (Pila& pila : partida.LST) pila.Vaciar();
+    for (Integer p = 0; p < PUNTOS; ++p) Punto_En(partida, p) = {p < 12 ? 300.0F : 5355.0F, NADIE};
     partida.Origen = ORIGEN_COLOCACION;
-    partida.Turno = BLANCA;
-    std::string casa;
-    std::string blancas = "0x2 18x5 11x5 16x3";
-    std::string cafes = "23x2 5x5 12x5 7x3";
-    int primero = 1;
-    int segundo = 2;
-    int dobles = -1;
-    for (const std::string& parte : Partes(texto)) {
-        std::istringstream flujo(parte);
-        std::string clave;
-        flujo >> clave;
-        std::string resto;
-        std::getline(flujo, resto);
-        std::istringstream valores(resto);
-        if (clave == "B") {
-            blancas = resto;
-        } else if (clave == "C") {
-            cafes = resto;
-        } else if (clave == "turn") {
-            partida.Turno = resto.find('C') == std::string::npos ? BLANCA : CAFE;
-        } else if (clave == "dice") {
-            valores >> primero >> segundo;
-        } else if (clave == "doubles") {
-            valores >> dobles;
-        } else if (clave == "home") {
-            casa = resto;
-        } else {
-            ADD_FAILURE() << "unknown word in a position: " << clave;
-        }
-    }
-    std::istringstream flujo_blancas(blancas);
-    std::istringstream flujo_cafes(cafes);
-    Poner_Bando(juego, partida, BLANCO, flujo_blancas);
-    Poner_Bando(juego, partida, MARRON, flujo_cafes);
-    Abrir_Casa(partida,
-               Pila_En(partida, BANDEJA_BLANCA).Cuenta() > 0 || casa.find('B') != std::string::npos,
-               Pila_En(partida, BANDEJA_CAFE).Cuenta() > 0 || casa.find('C') != std::string::npos);
-    Poner_Dados(partida, primero, segundo);
-    if (dobles >= 0) partida.Dobles = static_cast<Byte>(dobles);
+    Poner_Bando(juego, partida, BANDOS[0], palabras["B"]);
+    Poner_Bando(juego, partida, BANDOS[1], palabras["C"]);
+    const auto en_casa = [&](Integer bandeja, char bando) {
+        const bool pedido = palabras["home"].find(bando) != std::string::npos;
+        return Pila_En(partida, bandeja).Cuenta() > 0 || pedido;
+    };
+    partida.Adios[0].Visible = en_casa(BANDEJA_CAFE, 'C');
+    partida.Adios[1].Visible = en_casa(BANDEJA_BLANCA, 'B');
+    partida.Cafe_En_Casa = partida.Adios[0].Visible ? True : False;
+    partida.Blanca_En_Casa = partida.Adios[1].Visible ? True : False;
+    Poner_Dados(partida, palabras["dice"], palabras["doubles"]);
+    partida.Turno = palabras["turn"].starts_with('C') ? CAFE : BLANCA;
     partida.Origen = 0;
     partida.Jugando = True;
     EXPECT_EQ(Faltas(partida), std::vector<std::string>{}) << texto;

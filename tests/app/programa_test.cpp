@@ -1,140 +1,148 @@
-// The program as people start it: its beginning, its end, and files that are not as they should be.
+// The program as people start it, a child process: it comes to its main window and ends in an
+// orderly way, whatever has become of the files that it reads.
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
+#include <unistd.h>
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QFileInfo>
-#include <QRandomGenerator>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <csignal>
 #include <functional>
 #include <memory>
-#include <vector>
-
-#include "tests/app/proceso.h"
+#include <random>
 
 namespace corvanda::pruebas {
 namespace {
 
-/// Programs that run side by side, because the start-up screen takes its time.
-using Programas = std::vector<std::unique_ptr<Programa>>;
+constexpr int PACIENCIA = 30000;  // milliseconds; the machine may be busy
 
-Programa& Otro(Programas& programas) {
-    return *programas.emplace_back(std::make_unique<Programa>());
-}
-
-/// Starts them all; each comes to its main window and ends with 0 when the system asks.
-void Comprobar_Que_Juegan(Programas& programas) {
-    for (const auto& programa : programas) ASSERT_TRUE(programa->Empezar());
-    for (std::size_t i = 0; i < programas.size(); ++i) {
-        EXPECT_TRUE(programas[i]->Llega_A_La_Ventana()) << "the number " << i;
-        EXPECT_EQ(programas[i]->Terminar(), 0) << "the number " << i;
-    }
-}
-
-TEST(Programa, ends_by_each_signal_and_saves_nothing) {
-    for (const int senal : {SIGTERM, SIGINT, SIGHUP}) {
-        Programa programa;
-        ASSERT_TRUE(programa.Empezar());
-        EXPECT_TRUE(programa.Sigue_Viva_A_Los(300));
-        EXPECT_EQ(programa.Terminar(senal), 0) << senal;
-        EXPECT_FALSE(QFileInfo::exists(programa.Archivo_De_Ajustes()));
-    }
-}
-
-// Each of these is a moment of the start: before the first window, while that is painted, and while
-// the main window takes its place.
-TEST(Programa, ends_whenever_in_its_start_the_system_asks) {
-    for (const int milisegundos : {0, 5, 20, 40, 80, 150}) {
-        Programa programa;
-        ASSERT_TRUE(programa.Empezar());
-        programa.Sigue_Viva_A_Los(milisegundos);
-        EXPECT_EQ(programa.Terminar(), 0) << "after " << milisegundos << " ms";
-    }
-    Programas programas;
-    for (int i = 0; i < 6; ++i) ASSERT_TRUE(Otro(programas).Empezar());
-    for (int i = 0; i < 6; ++i) {
-        programas[static_cast<std::size_t>(i)]->Sigue_Viva_A_Los(2950 + 50 * i);
-        EXPECT_EQ(programas[static_cast<std::size_t>(i)]->Terminar(), 0) << i;
-    }
-}
-
-/// What may have happened to a file.
-using Dano = std::function<void(QFile&)>;
-
-void Escribir(QFile& archivo, const QByteArray& bytes) {
-    ASSERT_TRUE(archivo.open(QIODevice::WriteOnly)) << archivo.fileName().toStdString();
-    archivo.write(bytes);
-    archivo.close();
-}
-
-QByteArray Leer(QFile& archivo) {
-    const bool abierto = archivo.open(QIODevice::ReadOnly);
-    QByteArray bytes = abierto ? archivo.readAll() : QByteArray();
-    archivo.close();
-    return bytes;
-}
-
-QByteArray Ruido(qsizetype cuantos) {
-    QRandomGenerator generador(4711);
-    QByteArray bytes(cuantos, ' ');
-    for (char& octeto : bytes) octeto = static_cast<char>(generador.bounded(256));
-    return bytes;
-}
-
-TEST(Programa, starts_and_stays_whatever_has_become_of_its_data_files) {
-    const struct {
-        const char* que;
-        Dano dano;
-    } tabla[] = {
-        {"missing", [](QFile& archivo) { archivo.remove(); }},
-        {"empty", [](QFile& archivo) { archivo.resize(0); }},
-        {"half", [](QFile& archivo) { archivo.resize(archivo.size() / 2); }},
-        {"noise", [](QFile& archivo) { Escribir(archivo, Ruido(archivo.size())); }},
-        {"beginning as it should",
-         [](QFile& archivo) { Escribir(archivo, Leer(archivo).left(48) + Ruido(1000)); }},
-        {"not to be read", [](QFile& archivo) { archivo.setPermissions({}); }},
-    };
-    Programas programas;
-    for (const auto& fila : tabla) {
-        Programa& programa = Otro(programas);
-        programa.Copiar();
-        int cuantos = 0;
-        QDirIterator archivos(programa.Carpeta(), QDir::Files, QDirIterator::Subdirectories);
+/// A copy of the program and its data, with a home of its own, off the screen.
+class Programa {
+  public:
+    Programa() {
+        const QDir origen(QCoreApplication::applicationDirPath());
+        QDirIterator archivos(origen.path(), {"corvanda", "*.svg", "*.Wav", "*.HLP", "*.avi"},
+                              QDir::Files, QDirIterator::Subdirectories);
         while (archivos.hasNext()) {
-            QFile archivo(archivos.next());
-            if (QFileInfo(archivo).fileName() == "corvanda") continue;
-            fila.dano(archivo);
-            ++cuantos;
+            const QString relativo = origen.relativeFilePath(archivos.next());
+            QDir(copia.path()).mkpath(QFileInfo(relativo).path());
+            QFile::copy(origen.filePath(relativo), copia.filePath(relativo));
         }
-        EXPECT_GE(cuantos, 20) << fila.que;
+        Escribir(ajustes, "{}");
+        QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+        entorno.insert("HOME", copia.path());
+        entorno.insert("XDG_CONFIG_HOME", copia.filePath("config"));
+        entorno.insert("XDG_RUNTIME_DIR", copia.path());
+        entorno.insert("QT_QPA_PLATFORM", "offscreen");
+        entorno.insert("SDL_AUDIODRIVER", "dummy");
+        proceso.setProcessEnvironment(entorno);
+        proceso.setProcessChannelMode(QProcess::ForwardedChannels);
     }
-    Comprobar_Que_Juegan(programas);
+    ~Programa() { ::close(oidos); }
+    Programa(const Programa&) = delete;
+    Programa& operator=(const Programa&) = delete;
+
+    static void Escribir(const QString& nombre, const QByteArray& bytes) {
+        QDir().mkpath(QFileInfo(nombre).path());
+        QFile archivo(nombre);
+        ASSERT_TRUE(archivo.open(QIODevice::WriteOnly) && archivo.write(bytes) == bytes.size());
+    }
+
+    /// Starts and returns as soon as the program listens to signals.
+    bool Empezar() {
+        for (const QString& nombre : {ajustes, copia.filePath("imagenes/corvanda.svg")})
+            inotify_add_watch(oidos, QFile::encodeName(nombre).constData(), IN_OPEN);
+        proceso.start(copia.filePath("corvanda"), QStringList());
+        proceso.waitForStarted(PACIENCIA);
+        // Looked at closely: what a test does next is to hit a moment of the start.
+        const QDeadlineTimer plazo(PACIENCIA);
+        while (!Escucha() && !plazo.hasExpired()) ::usleep(200);
+        return Escucha();
+    }
+    /// Whether the main window loads: it reads the settings and the icon, one of which is there.
+    bool Llega_A_La_Ventana() {
+        char suceso[1024];
+        return QTest::qWaitFor([&] { return ::read(oidos, suceso, sizeof suceso) > 0; }, PACIENCIA);
+    }
+    /// Sends a signal and returns the exit status; -1 when it does not end, or not by itself.
+    int Terminar(int senal) {
+        ::kill(static_cast<pid_t>(proceso.processId()), senal);
+        if (proceso.state() != QProcess::NotRunning && !proceso.waitForFinished(PACIENCIA))
+            return -1;
+        return proceso.exitStatus() == QProcess::NormalExit ? proceso.exitCode() : -1;
+    }
+
+    const QTemporaryDir copia;
+    const QString ajustes = copia.filePath("config/corvanda/settings.json");
+
+  private:
+    bool Escucha() const {
+        QFile estado("/proc/" + QString::number(proceso.processId()) + "/status");
+        const QByteArray texto = estado.open(QIODevice::ReadOnly) ? estado.readAll() : QByteArray();
+        const QByteArray senales = texto.mid(texto.indexOf("SigCgt:") + 7).trimmed().left(16);
+        return (senales.toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1) != 0;
+    }
+
+    const int oidos = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    QProcess proceso;
+};
+
+TEST(Programa, ends_whenever_in_its_start_the_system_asks) {
+    for (const unsigned milisegundos : {0, 5, 20, 40, 80, 150}) {
+        Programa programa;
+        ASSERT_TRUE(programa.Empezar());
+        ::usleep(milisegundos * 1000);
+        EXPECT_EQ(programa.Terminar(SIGTERM), 0) << "after " << milisegundos << " ms";
+    }
 }
 
-TEST(Programa, starts_with_any_settings_file) {
-    const struct {
-        const char* que;
-        std::function<void(Programa&)> prepara;
-    } tabla[] = {
-        {"nonsense",
-         [](Programa& p) {
-             QDir().mkpath(QFileInfo(p.Archivo_De_Ajustes()).path());
-             QFile archivo(p.Archivo_De_Ajustes());
-             Escribir(archivo, "{\"\\" + Ruido(5000));
+// The programs run side by side, because the start-up screen takes its time.
+TEST(Programa, starts_and_ends_whatever_has_become_of_each_file) {
+    const std::pair<const char*, std::function<void(const QString&)>> danos[] = {
+        {"absent", [](const QString& a) { QFile::remove(a); }},
+        {"empty", [](const QString& a) { QFile::resize(a, 0); }},
+        {"half", [](const QString& a) { QFile::resize(a, QFileInfo(a).size() / 2); }},
+        {"random",
+         [](const QString& a) {
+             std::mt19937 azar(4711);
+             QByteArray bytes(QFileInfo(a).size() + 1000, ' ');
+             for (char& octeto : bytes) octeto = static_cast<char>(azar());
+             Programa::Escribir(a, bytes);
          }},
-        {"a folder in its place", [](Programa& p) { QDir().mkpath(p.Archivo_De_Ajustes()); }},
-        {"a file where its folder should be",
-         [](Programa& p) {
-             QFile archivo(p.Casa() + "/tapon");
-             Escribir(archivo, "x");
-             p.Poner("XDG_CONFIG_HOME", p.Casa() + "/tapon");
+        {"a folder",
+         [](const QString& a) {
+             QFile::remove(a);
+             QDir().mkpath(a);
          }},
-        {"no folder at all",
-         [](Programa& p) { p.Poner("XDG_CONFIG_HOME", "/nonexistent/folder"); }},
     };
-    Programas programas;
-    for (const auto& fila : tabla) fila.prepara(Otro(programas));
-    Comprobar_Que_Juegan(programas);
+    std::vector<std::pair<std::string, std::unique_ptr<Programa>>> programas;
+    for (const QString archivos : {"Sonidos/*.Wav", "Corvanda.avi", "corvanda.HLP",
+                                   "imagenes/*.svg", "config/corvanda/settings.json"}) {
+        for (const auto& [dano, danar] : danos) {
+            auto programa = std::make_unique<Programa>();
+            const QDir carpeta(programa->copia.filePath(QFileInfo(archivos).path()));
+            const QStringList hallados = carpeta.entryList({QFileInfo(archivos).fileName()});
+            EXPECT_FALSE(hallados.isEmpty()) << archivos.toStdString();
+            for (const QString& uno : hallados) danar(carpeta.filePath(uno));
+            ASSERT_TRUE(programa->Empezar());
+            programas.emplace_back(archivos.toStdString() + " " + dano, std::move(programa));
+        }
+    }
+    int senal = 0;
+    for (const auto& [que, programa] : programas) {
+        const QFileInfo ajustes(programa->ajustes);
+        const auto antes = ajustes.lastModified();
+        EXPECT_TRUE(programa->Llega_A_La_Ventana()) << que;
+        EXPECT_EQ(programa->Terminar(std::array{SIGTERM, SIGINT, SIGHUP}.at(senal++ % 3)), 0)
+            << que;
+        EXPECT_EQ(QFileInfo(programa->ajustes).lastModified(), antes) << que << " saves nothing";
+    }
 }
 
 }  // namespace

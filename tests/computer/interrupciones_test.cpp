@@ -1,191 +1,225 @@
-// What other hands do in the middle of the computer's turn: in a pass of its pause, and under its
-// own message boxes.
+// What may happen in the middle: in each pass of a roll and of the computer's pause, under each
+// box, and in the start-player dialog.
 #include <gtest/gtest.h>
 
-#include "tests/computer/turno_cafe.h"
+#include <set>
+
+#include "computer/computadora.h"
+#include "tests/apoyo/diario.h"
+#include "tests/apoyo/mesa.h"
 
 namespace corvanda::pruebas {
 namespace {
 
-/// The computer, watched for two turns at once.
-class Vigilada final : public Oponente {
-  public:
-    void Tirar_Computer(Juego& juego) override {
-        ++dentro;
-        maximo = std::max(maximo, dentro);
-        computadora.Tirar_Computer(juego);
+const char* const NADIE_PULSA = "a box is modal";
+const char* const NADA = "";
+
+/// An action that lets events run, and when something else happens in the middle of it.
+struct Momento {
+    const char *posicion, *accion;  // as for Mesa::Hacer, or "roll", or "new" for a game
+    Byte nivel;
+    int desde, hasta;       // passes of the event loop; 0 is under a box, -1 in the dialog
+    const char* respuesta;  // to a press of either side; nothing answers a drop, nor a pass then
+};
+
+// Every die shows a 3.
+const Momento MOMENTOS[] = {
+    {"B 0x15 | C 12x15 | dice 0 2", "0/2", DOS_PERSONAS, 1, 4, SIN_JUEGO},
+    // Where no move came before, the old dice are still shown, and nothing answers.
+    {"turn C | C 2x1 12x14 | B 0x15 | dice 5 3", "pass", DOS_PERSONAS, 1, 4, NADA},
+    {"dice 5 3", "new", DOS_PERSONAS, -1, -1, NADA},
+    {"dice 5 3", "new", DOS_PERSONAS, 1, 4, NADA},
+    {"", "new", DOS_PERSONAS, 1, 4, NADA},
+    {"turn B", "roll", PRINCIPIANTE, 1, 4, NADA},
+    {"turn B", "roll", PRINCIPIANTE, 5, 4 + 4 * 6, NO_ES_SU_TURNO},
+    {"B 21x15 | C bar1 12x14 | turn B", "roll", PRINCIPIANTE, 4 + 6 + 1, 4 + 6 + 4, NADA},
+    {"B 21x15 | C bar1 12x14 | turn B", "roll", PRINCIPIANTE, 0, 0, NADIE_PULSA},
+    {"B 5x1 bar14 | C 1x2 | turn B", "roll", PRINCIPIANTE, 0, 0, NADIE_PULSA},
+    {"B 18x15 | C 2x1 | turn B", "roll", AVANZADO, 0, 0, NADIE_PULSA},
+    {"B 0x15 | C 5x15 | dice 5 1", "0/5", DOS_PERSONAS, 0, 0, NADIE_PULSA},
+    {"B 8x15 | C 12x15 | dice 5 1", "8/5", DOS_PERSONAS, 0, 0, NADIE_PULSA},
+    {"dice 5 1", "C0", DOS_PERSONAS, 0, 0, NADIE_PULSA},
+    {"dice 5 1", "pass", DOS_PERSONAS, 0, 0, NADIE_PULSA},
+    {"B bar1 0x14 | C 5x2 3x2 12x11 | dice 6 4", "pass", DOS_PERSONAS, 0, 0, NADIE_PULSA},
+    {"B 23x1 | C 12x15 | dice 1 4", "23/A1", DOS_PERSONAS, 0, 0, NADIE_PULSA},
+    {"turn C | C 0x1 | B 12x15 | dice 1 4", "0/A0", DOS_PERSONAS, 0, 0, NADIE_PULSA},
+};
+
+/// A table with the computer at it, watched for two turns at once.
+struct Escena : Oponente, Mesa {
+    explicit Escena(const char* posicion, Byte nivel = DOS_PERSONAS) : Mesa(posicion, this) {
+        for (int i = 0; i < 20; ++i) escritorio.Dados({3, 3});
+        escritorio.Contestar_Siempre();
+        partida.Nivel = nivel;
+        partida.Velocidad = 2;
+        partida.Sonido = True;
+    }
+    void Tirar_Computer(Juego& juego_en_curso) override {
+        ++turnos;
+        maximo = std::max(maximo, ++dentro);
+        Computadora().Tirar_Computer(juego_en_curso);
         --dentro;
     }
-
-    int maximo = 0;
-
-  private:
-    Computadora computadora;
-    int dentro = 0;
-};
-
-struct Escena {
-    explicit Escena(const std::string& posicion) : mesa(posicion, &vigilada) {}
-
     void Empezar(Byte nivel, Integer empieza) {
         volado.turno = static_cast<Integer>(-empieza);
-        mesa.juego.Empezar(nivel, volado);
+        juego.Empezar(nivel, volado);
     }
-    void Cerrar() {
-        mesa.juego.Cerrar();
-        mesa.escritorio.Leer();
-        al_cerrar = Texto(mesa.partida);
+    void Correr(const Momento& momento, int pase, const std::function<void()>& suceso) {
+        if (pase > 0) escritorio.En_El_Pase(pase, suceso);
+        if (pase == 0) escritorio.Contestar(button::Ok, suceso);
+        Volado_Fijo primero(partida, CAFE);
+        if (pase < 0) primero.mientras = suceso;
+        const std::string accion = momento.accion;
+        if (accion == "new") return juego.Empezar(DOS_PERSONAS, primero);
+        if (accion == "roll") return juego.Tirar_Dados();
+        if (momento.respuesta == NADA) Hacer("C14");  // a chip is held when the pass is given
+        Hacer(accion);
+    }
+    // Returns what the journal says of hands, and leaves it as it was.
+    Diario Molestar(bool pasa = true) {
+        const Diario antes = escritorio.Leer();
+        for (const char* accion : {"B0", "C0"}) Hacer(accion);
+        if (pasa) Hacer("pass");
+        Soltar({Arreglo::Blanca, 1}, {Arreglo::Triangle, 3});
+        Soltar({Arreglo::Cafe, 14}, {Arreglo::Triangle, 7});
+        Soltar({Arreglo::Blanca, 1}, {Arreglo::Adios, 0});
+        Diario respuesta = escritorio.Leer();
+        escritorio.diario = antes;
+        return respuesta;
     }
 
-    Vigilada vigilada;
-    Mesa mesa;
-    Volado_Fijo volado{mesa.partida, BLANCA};
-    std::string al_cerrar;
+    Volado_Fijo volado{partida, BLANCA};
+    int turnos = 0, dentro = 0, maximo = 0;
 };
 
-/// When something happens in a turn of Brown's, and what stands on the board at its end otherwise.
-struct Momento {
-    const char* cuando;
-    const char* posicion;
-    int dado1, dado2;
-    int pase;  ///< of the pause, from 1; 0 is under the box that says the computer passed
-    const char* sin_mas;
-    const char* con_otro_nivel;
-};
-
-/// What happens, and what is left of the turn then.
-struct Suceso {
-    const char* que;
-    std::function<void(Escena&)> accion;
-    int cajas;  ///< boxes that answer it
-    enum { SIN_MAS, CON_OTRO_NIVEL, COMO_ESTABA, FIJO } termina;
-    const char* como = "";  ///< for FIJO: the end whatever the moment
-};
-
-using Lineas = std::vector<std::string>;
-
-constexpr int PASES_DE_UN_TIRO = 4;
-
-const char* const TIRADA = "turno B, dados 4+2, ";
-const char* const BLOQUEADA = "blancas 19x2 21x13, cafes 12x14 barra x1";
-const char* const NEGADA = "blancas 5x1 barra x14, cafes 2x2 fuera x13";
-const char* const JUGADA = "blancas 0x2 11x5 16x3 18x5, cafes 5x5 7x3 12x5 19x1 21x1";
-const char* const MEJOR = "blancas 0x2 11x5 16x3 18x5, cafes 5x6 7x2 12x5 19x1 23x1";
-
-const Momento MOMENTOS[] = {
-    {"in the first pass", "turn B", 4, 2, 1, JUGADA, MEJOR},
-    {"in the last pass before a move", "turn B", 4, 2, 6, JUGADA, MEJOR},
-    {"in the first pass after a move", "turn B", 4, 2, 7, JUGADA, MEJOR},
-    {"in the last pass of the turn", "turn B", 4, 2, 12, JUGADA, MEJOR},
-    {"under the box of its pass", "B 19x2 21x13 | C bar1 12x14 | turn B", 5, 3, 0, BLOQUEADA,
-     BLOQUEADA},
-    {"under the box after a refused bear-off", "B 5x1 bar14 | C 2x2 | turn B", 6, 5, 0, NEGADA,
-     NEGADA},
-};
-
-const Suceso SUCESOS[] = {
-    {"nothing", [](Escena&) {}, 0, Suceso::SIN_MAS},
-    {"a press on a white chip", [](Escena& e) { e.mesa.juego.Blanca_MouseDown(0, LeftButton); }, 1,
-     Suceso::SIN_MAS},
-    {"a press on a brown chip", [](Escena& e) { e.mesa.juego.Cafe_MouseDown(0, LeftButton); }, 1,
-     Suceso::SIN_MAS},
-    {"the pass command", [](Escena& e) { e.mesa.juego.mnuPasar_Click(); }, 1, Suceso::SIN_MAS},
-    {"another level", [](Escena& e) { e.mesa.partida.Nivel = AVANZADO; }, 0,
-     Suceso::CON_OTRO_NIVEL},
-    {"a game of two people, White begins", [](Escena& e) { e.Empezar(DOS_PERSONAS, BLANCA); }, 0,
-     Suceso::FIJO, "turno B, dados 4+2, blancas 0x2 11x5 16x3 18x5, cafes 5x5 7x3 12x5 23x2"},
-    {"a game of two people, Brown begins", [](Escena& e) { e.Empezar(DOS_PERSONAS, CAFE); }, 0,
-     Suceso::FIJO, "turno C, dados 4+2, blancas 0x2 11x5 16x3 18x5, cafes 5x5 7x3 12x5 23x2"},
-    {"a game with the computer, White begins", [](Escena& e) { e.Empezar(PRINCIPIANTE, BLANCA); },
-     0, Suceso::FIJO, "turno B, dados 4+2, blancas 0x2 11x5 16x3 18x5, cafes 5x5 7x3 12x5 23x2"},
-    {"a game with the computer, Brown begins", [](Escena& e) { e.Empezar(PRINCIPIANTE, CAFE); }, 0,
-     Suceso::FIJO, "turno B, dados 1+2, blancas 0x2 11x5 16x3 18x5, cafes 5x5 7x3 12x5 19x1 21x1"},
-    {"two new games, the second counts",
-     [](Escena& e) {
-         e.Empezar(PRINCIPIANTE, CAFE);
-         e.Empezar(DOS_PERSONAS, CAFE);
-     },
-     0, Suceso::FIJO, "turno C, dados 4+2, blancas 0x2 11x5 16x3 18x5, cafes 5x5 7x3 12x5 23x2"},
-    {"the end of the program", [](Escena& e) { e.Cerrar(); }, 0, Suceso::COMO_ESTABA},
-    {"a new game and the end of the program",
-     [](Escena& e) {
-         e.Empezar(PRINCIPIANTE, CAFE);
-         e.Cerrar();
-     },
-     0, Suceso::COMO_ESTABA},
-};
-
-std::string Final(const Momento& momento, const Suceso& suceso, const Escena& escena) {
-    switch (suceso.termina) {
-        case Suceso::SIN_MAS:
-            return TIRADA + std::string(momento.sin_mas);
-        case Suceso::CON_OTRO_NIVEL:
-            return TIRADA + std::string(momento.con_otro_nivel);
-        case Suceso::COMO_ESTABA:
-            return escena.al_cerrar;
-        case Suceso::FIJO:
-            break;
-    }
-    return suceso.como;
+void Esperar_Orden(const Escena& escena) {
+    EXPECT_LE(escena.maximo, 1);
+    EXPECT_FALSE(escena.juego.Computadora_Juega());
+    EXPECT_FALSE(escena.escritorio.reloj_de_arena);
+    EXPECT_TRUE(escena.escritorio.Respuestas_Gastadas());
 }
 
-void Preparar(const Momento& momento, const Suceso& suceso, Escena& escena) {
-    Escritorio& escritorio = escena.mesa.escritorio;
-    escena.mesa.partida.Nivel = PRINCIPIANTE;
-    escena.mesa.partida.Velocidad = momento.pase > 0 ? 2 : 0;
-    escritorio.Dados({momento.dado1, momento.dado2, 4, 2, 1, 2});
-    const auto accion = [&] { suceso.accion(escena); };
-    if (momento.pase > 0) {
-        escritorio.En_El_Pase(PASES_DE_UN_TIRO + momento.pase, accion);
-    } else {
-        escritorio.Contestar(button::Ok, accion);
+void Probar_Manos(const Momento& momento, int pase) {
+    Escena tranquila(momento.posicion, momento.nivel), escena(momento.posicion, momento.nivel);
+    tranquila.Correr(momento, pase, [] {});
+    Diario respuesta{"nothing happened"};
+    escena.Correr(momento, pase, [&] {
+        EXPECT_FALSE(escena.juego.Se_Puede_Tomar({Arreglo::Blanca, 0}));
+        EXPECT_FALSE(escena.juego.Se_Puede_Tomar({Arreglo::Cafe, 0}));
+        respuesta = escena.Molestar(momento.respuesta != std::string(NO_ES_SU_TURNO));
+    });
+    Diario esperada;
+    for (int i = 0; i < 2 && *momento.respuesta != '\0'; ++i) {
+        esperada.insert(esperada.end(), {Suena("strike"), momento.respuesta});
     }
-    for (int i = 0; i < suceso.cajas; ++i) escritorio.Contestar();
+    EXPECT_EQ(respuesta, esperada);
+    EXPECT_EQ(escena.escritorio.diario, tranquila.escritorio.diario);
+    EXPECT_EQ(escena.escritorio.Pases(), tranquila.escritorio.Pases());
+    EXPECT_TRUE(escena.partida == tranquila.partida) << Texto(escena.partida);
+    Esperar_Orden(escena);
+}
+
+// The new game is the only one and goes as if nothing had been before; so does the second of two
+// that were asked for while the first had to wait, and hands get no answer meanwhile.
+void Probar_Otro_Juego(const Momento& momento, int pase, Byte nivel, Integer empieza) {
+    Escena sola(""), escena(momento.posicion, momento.nivel);
+    sola.Empezar(nivel, empieza);
+    int pases = 0;
+    escena.volado.mientras = [&] { EXPECT_EQ(escena.dentro, 0) << "the old turn has unwound"; };
+    escena.Correr(momento, pase, [&] {
+        pases = escena.escritorio.Pases();
+        escena.escritorio.Leer();
+        if (pase > 0) escena.Empezar(AVANZADO, static_cast<Integer>(-empieza));
+        escena.Empezar(nivel, empieza);
+        if (pase > 0) {
+            EXPECT_EQ(escena.Molestar(), Diario{});
+        }
+    });
+    EXPECT_EQ(Texto(escena.partida), Texto(sola.partida));
+    EXPECT_EQ(Faltas(escena.partida), Diario{});
+    EXPECT_EQ(escena.partida.Jugando, True);
+    EXPECT_EQ(escena.juego.Se_Puede_Tomar({Arreglo::Cafe, 0}), escena.partida.Turno == CAFE);
+    EXPECT_EQ(escena.escritorio.Leer(), sola.escritorio.Leer());
+    EXPECT_EQ(escena.escritorio.Pases(), pases + sola.escritorio.Pases());
+    Esperar_Orden(escena);
+}
+
+// After the end of the program nothing moves, sounds or shows, whatever comes.
+void Probar_Cierre(const Momento& momento, int pase, bool con_otro_juego) {
+    Escena escena(momento.posicion, momento.nivel);
+    Partida cerrada;
+    int pases = 0;
+    escena.Correr(momento, pase, [&] {
+        if (con_otro_juego) escena.Empezar(PRINCIPIANTE, CAFE);
+        escena.escritorio.arrastrada = {Arreglo::Blanca, 0};
+        escena.juego.Cerrar();
+        EXPECT_EQ(escena.escritorio.arrastrada, Control{});
+        escena.escritorio.Leer();
+        cerrada = escena.partida;
+        pases = escena.escritorio.Pases();
+    });
+    cerrada.Turno = escena.partida.Turno;  // the dialog's last word
+    escena.juego.Beeper();
+    escena.juego.MsgError(1);
+    escena.juego.Tirar_Dados();
+    escena.Empezar(DOS_PERSONAS, CAFE);
+    EXPECT_EQ(escena.Molestar(), Diario{});
+    EXPECT_EQ(escena.escritorio.Leer(), Diario{});
+    EXPECT_EQ(escena.escritorio.Pases(), pases);
+    EXPECT_TRUE(escena.partida == cerrada) << Texto(escena.partida);
+    Esperar_Orden(escena);
 }
 
 TEST(Interrupciones, Leave_One_Game_And_One_Turn) {
     for (const Momento& momento : MOMENTOS) {
-        for (const Suceso& suceso : SUCESOS) {
-            SCOPED_TRACE(std::string(suceso.que) + ", " + momento.cuando);
-            Escena escena(momento.posicion);
-            Preparar(momento, suceso, escena);
-            escena.mesa.juego.Tirar_Dados();
-            EXPECT_EQ(Texto(escena.mesa.partida), Final(momento, suceso, escena));
-            EXPECT_EQ(Faltas(escena.mesa.partida), Lineas{});
-            EXPECT_TRUE(escena.mesa.escritorio.Respuestas_Gastadas());
-            EXPECT_FALSE(escena.mesa.escritorio.reloj_de_arena);
-            EXPECT_FALSE(escena.mesa.juego.Computadora_Juega());
-            EXPECT_EQ(escena.vigilada.maximo, 1);
-            if (escena.mesa.juego.Cerrando()) {
-                EXPECT_EQ(escena.mesa.escritorio.Leer(), Lineas{});
+        for (int pase = momento.desde; pase <= momento.hasta; ++pase) {
+            SCOPED_TRACE(std::string(momento.posicion) + ": " + momento.accion + ", pass " +
+                         std::to_string(pase));
+            if (momento.respuesta != NADIE_PULSA) Probar_Manos(momento, pase);
+            Probar_Otro_Juego(momento, pase, DOS_PERSONAS, CAFE);
+            Probar_Otro_Juego(momento, pase, PRINCIPIANTE, CAFE);
+            Probar_Otro_Juego(momento, pase, PRINCIPIANTE, BLANCA);
+            for (const bool con_otro_juego : {false, true}) {
+                Probar_Cierre(momento, pase, con_otro_juego);
             }
         }
     }
 }
 
-TEST(Interrupciones, A_Pass_In_The_Pause_Is_The_Only_One) {
-    Escena escena("B 19x2 21x13 | C bar1 12x14 | turn B");
-    escena.mesa.partida.Nivel = PRINCIPIANTE;
-    escena.mesa.partida.Velocidad = 2;
-    escena.mesa.escritorio.Dados({5, 3, 4, 2});
-    escena.mesa.escritorio.Contestar();
-    escena.mesa.escritorio.En_El_Pase(PASES_DE_UN_TIRO + 2,
-                                      [&] { escena.mesa.juego.mnuPasar_Click(); });
-    escena.mesa.juego.Tirar_Dados();
-    EXPECT_EQ(Texto(escena.mesa.partida), TIRADA + std::string(BLOQUEADA));
-    EXPECT_EQ(escena.mesa.escritorio.Pases(), 2 * PASES_DE_UN_TIRO + 2) << "the pause goes on";
-    EXPECT_EQ(escena.mesa.escritorio.Leer().size(), 1U);
+// The person passes for Brown in the pause, and then for White: Brown's turn comes back while the
+// first one has not yet returned.
+TEST(Interrupciones, Passes_In_The_Pause_Neither_Repeat_Nor_Nest) {
+    for (const int mas : {0, 1}) {
+        Escena escena("B 21x14 bar1 | C 2x14 bar1", PRINCIPIANTE);
+        escena.escritorio.En_El_Pase(4 + 2, [&] {
+            for (int i = 0; i <= mas; ++i) escena.Hacer("pass");
+        });
+        escena.juego.Tirar_Dados();
+        EXPECT_EQ(escena.partida.Turno, BLANCA);
+        EXPECT_EQ(escena.turnos, 1 + mas);
+        EXPECT_EQ(escena.escritorio.Pases(), 4 + 2 + 4 + mas * (4 + 6 + 4));
+        Esperar_Orden(escena);
+    }
 }
 
-TEST(Interrupciones, A_New_Game_Under_The_Winners_Box_Is_Played) {
-    Escena escena("B 18x15 | C 0x1 | turn B");
-    escena.mesa.partida.Nivel = AVANZADO;
-    escena.mesa.escritorio.Dados({1, 2, 4, 2, 1, 2});
-    escena.mesa.escritorio.Contestar(button::Ok, [&] { escena.Empezar(PRINCIPIANTE, CAFE); });
-    escena.mesa.juego.Tirar_Dados();
-    EXPECT_EQ(Texto(escena.mesa.partida), "turno B, dados 1+2, " + std::string(JUGADA));
-    EXPECT_TRUE(Es_Valida(escena.mesa.partida));
-    EXPECT_EQ(escena.vigilada.maximo, 1);
+// However often somebody asks for another game in the dialog or in the first roll, each begins
+// where the first did, and only the last one is rolled to its end.
+TEST(Interrupciones, New_Games_Follow_Each_Other_And_Do_Not_Nest) {
+    Escena escena("");
+    escena.escritorio.Sembrar(1);
+    std::set<void*> pisos;
+    int juegos = 0;
+    const auto otro = [&] { escena.Empezar(DOS_PERSONAS, CAFE); };
+    escena.volado.mientras = [&] {
+        pisos.insert(__builtin_frame_address(0));
+        if (++juegos == 50) return;
+        if (juegos % 2 == 0) return otro();
+        escena.escritorio.En_El_Pase(juegos % 4 + 1, otro);
+    };
+    otro();
+    EXPECT_EQ(juegos, 50);
+    EXPECT_EQ(pisos.size(), 1U);
+    EXPECT_EQ(escena.escritorio.Pases(), 13 * 2 + 12 * 4 + 4);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// The board as it is set up, and what a valid position is.
 #include <gtest/gtest.h>
 
 #include "tests/apoyo/diario.h"
@@ -6,81 +7,53 @@
 namespace corvanda::pruebas {
 namespace {
 
-constexpr const char* INICIO = ", blancas 0x2 11x5 16x3 18x5, cafes 5x5 7x3 12x5 23x2";
-
-std::string Textos(const Pila& pila) {
-    std::string textos;
-    for (Integer item = 0; item < pila.Cuenta(); ++item) textos += pila.Texto(item);
-    return textos;
-}
-
 // The Tops of a point's chips, the lowest of the stack first.
 std::vector<Single> Alturas(const Partida& partida, Integer punto) {
     const auto& fichas = Punto_En(partida, punto).Owner == BLANCA ? partida.Blanca : partida.Cafe;
     const Pila& pila = Pila_En(partida, punto);
     std::vector<Single> alturas;
-    for (auto item = static_cast<Integer>(pila.Cuenta() - 1); item >= 0; --item) {
-        alturas.push_back(fichas.at(static_cast<std::size_t>(pila.Ficha(item))).Top);
+    for (int item = pila.Cuenta() - 1; item >= 0; --item) {
+        const Integer ficha = pila.Ficha(static_cast<Integer>(item));
+        alturas.push_back(fichas.at(static_cast<std::size_t>(ficha)).Top);
     }
     return alturas;
 }
 
-void Esperar_Nada_De_Un_Juego(const Partida& partida) {
-    EXPECT_EQ(Faltas(partida), Diario{});
-    EXPECT_EQ(partida.Origen, 0);
-    for (std::size_t i = 0; i < 2; ++i) {
-        EXPECT_FALSE(partida.Dado.at(i).Visible);
-        EXPECT_FALSE(partida.Adios.at(i).Visible);
-    }
-}
-
-TEST(Colocacion, The_Starting_Position) {
-    struct Lugar {
-        Integer punto;
-        Single y;
-        const char* fichas;
-    };
-    const Lugar lugares[] = {{0, 1350, " 1 0"},
-                             {5, 300, " 6 5 4 3 2"},
-                             {7, 1875, " 14 13 12"},
-                             {11, 300, " 11 10 9 8 7"},
-                             {12, 4830, " 11 10 9 8 7"},
-                             {16, 3780, " 14 13 12"},
-                             {18, 4830, " 6 5 4 3 2"},
-                             {23, 4305, " 1 0"},
-                             {1, 300, ""},
-                             {20, 5355, ""},
-                             {22, 5355, ""}};
+// One number over every image of the board, with the chips as a game begins; it changes only when
+// the layout or the starting position does.
+TEST(Colocacion, The_Board_As_A_Game_Begins) {
     const Mesa mesa;
-    EXPECT_EQ(Texto(mesa.partida), std::string("turno -, dados 0+0") + INICIO);
-    EXPECT_EQ(mesa.partida.Jugando, False);
-    Esperar_Nada_De_Un_Juego(mesa.partida);
-    for (const auto& [punto, y, fichas] : lugares) {
-        EXPECT_EQ(Textos(Pila_En(mesa.partida, punto)), fichas) << punto;
-        EXPECT_EQ(Punto_En(mesa.partida, punto).Y, y) << punto;
+    std::uint64_t firma = 0;
+    for (const Arreglo nombre : {Arreglo::Tablero, Arreglo::Triangle, Arreglo::Blanca,
+                                 Arreglo::Cafe, Arreglo::Adios, Arreglo::Dado}) {
+        for (Control c{nombre, 0}; Imagen_De(mesa.partida, c) != nullptr; ++c.Index) {
+            const Image& i = *Imagen_De(mesa.partida, c);
+            for (const Single valor : {i.Left, i.Top, i.Width, i.Height, Single(i.Shown),
+                                       Single(i.ZOrder), Single(i.Visible), Single(i.Enabled)}) {
+                firma = firma * 1099511628211U + static_cast<std::uint64_t>(valor);
+            }
+        }
     }
+    EXPECT_EQ(firma, 16028574968039452301U);
+    EXPECT_EQ(mesa.partida.Jugando, False);
+    EXPECT_EQ(mesa.partida.Tablero[1].Width, 3960);
+    EXPECT_EQ(mesa.partida.Tablero[1].Height, 5820);
 }
 
 TEST(Colocacion, Stacks_Climb_In_Layers_And_A_Leaving_Chip_Gives_Its_Place_Back) {
-    struct Columna {
-        const char* posicion;
-        Integer punto, destino;
-        std::vector<Single> alturas;
+    const std::tuple<const char*, const char*, Integer, std::vector<Single>> columnas[] = {
+        {"B 5x6 18x9 | C 12x15", "5/6", 5, {300, 825, 1350, 1875, 2400, 300}},
+        {"B 5x5 18x10 | C 12x15", "5/6", 5, {300, 825, 1350, 1875, 2400}},
+        {"B 12x5 18x10 | C 5x15", "12/13", 12, {5355, 4830, 4305, 3780, 5355}},
+        {"B 22x4 0x11 | C 5x15", "22/23", 22, {5355, 4830, 4305, 3780}},
+        {"turn C | C 3x2 12x13 | B 18x15", "3/2", 3, {300, 825}},
     };
-    const Columna columnas[] = {
-        {"B 5x6 18x9 | C 12x15", 5, 6, {300, 825, 1350, 1875, 2400, 300}},
-        {"B 5x5 18x10 | C 12x15", 5, 6, {300, 825, 1350, 1875, 2400}},
-        {"B 12x5 18x10 | C 5x15", 12, 13, {5355, 4830, 4305, 3780, 5355}},
-        {"B 22x4 0x11 | C 5x15", 22, 23, {5355, 4830, 4305, 3780}},
-        {"turn C | C 3x2 12x13 | B 18x15", 3, 2, {300, 825}},
-    };
-    for (const Columna& columna : columnas) {
-        SCOPED_TRACE(columna.posicion);
-        Mesa mesa(columna.posicion);
-        EXPECT_EQ(Alturas(mesa.partida, columna.punto), columna.alturas);
-        mesa.Jugar(columna.punto, columna.destino);
-        EXPECT_EQ(Pila_En(mesa.partida, columna.destino).Cuenta(), 1);
-        EXPECT_EQ(Punto_En(mesa.partida, columna.punto).Y, columna.alturas.back());
+    for (const auto& [posicion, accion, punto, alturas] : columnas) {
+        SCOPED_TRACE(posicion);
+        Mesa mesa(posicion);
+        EXPECT_EQ(Alturas(mesa.partida, punto), alturas);
+        mesa.Hacer(accion);
+        EXPECT_EQ(Punto_En(mesa.partida, punto).Y, alturas.back());
     }
 }
 
@@ -95,40 +68,6 @@ TEST(Colocacion, A_Place_That_Begins_At_The_Edge_Of_The_Point_Is_Taken) {
     EXPECT_EQ(Alturas(mesa.partida, 18), (std::vector<Single>{5355, 4830, 4305, 5355}));
 }
 
-TEST(Colocacion, The_Board_As_It_Was_Drawn_And_Dressed) {
-    struct Sitio {
-        std::size_t punto;
-        Single left, top, width, height;
-        Picture estampa;
-    };
-    const Sitio sitios[] = {{0, 960, 240, 450, 2550, Picture::Triangulo_Sup_A},
-                            {5, 3960, 240, 450, 2550, Picture::Triangulo_Sup_B},
-                            {6, 5100, 240, 450, 2550, Picture::Triangulo_Sup_A},
-                            {11, 8100, 240, 450, 2550, Picture::Triangulo_Sup_B},
-                            {12, 8100, 3360, 450, 2550, Picture::Triangulo_Inf_A},
-                            {17, 5100, 3360, 450, 2550, Picture::Triangulo_Inf_B},
-                            {20, 2760, 3360, 480, 2535, Picture::Triangulo_Inf_A},
-                            {22, 1560, 3360, 480, 2535, Picture::Triangulo_Inf_A},
-                            {23, 960, 3360, 450, 2550, Picture::Triangulo_Inf_B}};
-    const auto forma = [](const Image& i) {
-        return std::vector<Single>{i.Left, i.Top, i.Width, i.Height};
-    };
-    const Mesa mesa;
-    for (const auto& [punto, left, top, width, height, estampa] : sitios) {
-        const Image& imagen = mesa.partida.Triangle.at(punto);
-        EXPECT_EQ(forma(imagen), (std::vector<Single>{left, top, width, height})) << punto;
-        EXPECT_EQ(imagen.Shown, estampa) << punto;
-    }
-    EXPECT_EQ(forma(mesa.partida.Tablero[0]), (std::vector<Single>{780, 180, 3960, 5820}));
-    EXPECT_EQ(forma(mesa.partida.Tablero[1]), (std::vector<Single>{4860, 180, 3960, 5820}));
-    EXPECT_EQ(mesa.partida.Tablero[1].Shown, Picture::Tablero);
-    for (std::size_t i = 0; i < FICHAS; ++i) {
-        const Image &blanca = mesa.partida.Blanca.at(i), &cafe = mesa.partida.Cafe.at(i);
-        EXPECT_TRUE(blanca.Width == 525 && blanca.Height == 525) << i;
-        EXPECT_TRUE(cafe.Width == 450 && cafe.Height == 435) << i;
-    }
-}
-
 // A new game in the middle of another takes every chip back and touches nothing that the first
 // roll or the person decides.
 TEST(Colocacion, Setting_Up_In_The_Middle_Of_A_Game) {
@@ -137,8 +76,8 @@ TEST(Colocacion, Setting_Up_In_The_Middle_Of_A_Game) {
     partida.Nivel = AVANZADO;
     partida.Sonido = True;
     partida.Velocidad = 37;
-    mesa.escritorio.arrastrada = mesa.Tomar(ORIGEN_BARRA_CAFE);
-    ASSERT_EQ(mesa.escritorio.Leer(), Diario{"arrastra Cafe(13)"});
+    mesa.Hacer("C13");
+    EXPECT_EQ(mesa.escritorio.Leer(), Diario{"arrastra Cafe(13)"});
     const auto testigo = mesa.juego.Reglas().Tomar();
 
     mesa.juego.Ordenar();
@@ -146,14 +85,19 @@ TEST(Colocacion, Setting_Up_In_The_Middle_Of_A_Game) {
     EXPECT_EQ(mesa.escritorio.Leer(), (Diario{"puntero reloj", "puntero normal"}));
     EXPECT_EQ(mesa.escritorio.arrastrada, Control{});
     EXPECT_FALSE(mesa.juego.Reglas().Sigue(testigo));
-    EXPECT_EQ(Texto(partida), std::string("turno C, dados 4+4 dobles 1") + INICIO);
-    Esperar_Nada_De_Un_Juego(partida);
-    EXPECT_EQ(partida.Jugando, True);
-    EXPECT_EQ(partida.Nivel, AVANZADO);
-    EXPECT_EQ(partida.Sonido, True);
-    EXPECT_EQ(partida.Velocidad, 37);
-    EXPECT_EQ(partida.Blanca_En_Casa, False);
-    EXPECT_EQ(partida.Cafe_En_Casa, False);
+    EXPECT_EQ(Texto(partida),
+              "turno C, dados 4+4 dobles 1, blancas 0x2 11x5 16x3 18x5, cafes 5x5 7x3 12x5 23x2");
+    EXPECT_EQ(Dados_De(partida), "4 4 x1");
+    EXPECT_EQ((std::array{partida.Origen, partida.Blanca_En_Casa, partida.Cafe_En_Casa}),
+              (std::array{Integer{0}, False, False}));
+    EXPECT_EQ(
+        (std::array{partida.Jugando, Integer{partida.Nivel}, partida.Sonido, partida.Velocidad}),
+        (std::array{True, Integer{AVANZADO}, True, Integer{37}}));
+
+    // Hidden dice do not pay, although they keep their values.
+    partida.Turno = BLANCA;
+    mesa.Hacer("0/4");
+    EXPECT_EQ(Pila_En(partida, 0).Cuenta(), 2);
 }
 
 TEST(Colocacion, A_Placed_Chip_Neither_Pays_Nor_Hits_Nor_Leaves_A_Stack) {
@@ -162,7 +106,7 @@ TEST(Colocacion, A_Placed_Chip_Neither_Pays_Nor_Hits_Nor_Leaves_A_Stack) {
     mesa.juego.Poner_Origen(ORIGEN_COLOCACION);
     mesa.juego.Mover(BLANCA, 14, 5);
     EXPECT_EQ(mesa.escritorio.Leer(), Diario{});
-    EXPECT_EQ(Textos(Pila_En(mesa.partida, 5)), " 14 0");
+    EXPECT_EQ(Pila_En(mesa.partida, 5).Cuenta(), 2);
     EXPECT_EQ(Pila_En(mesa.partida, 0).Cuenta(), 15);
     EXPECT_EQ(Pila_En(mesa.partida, BARRA_CAFE).Cuenta(), 0);
     EXPECT_EQ(Dados_De(mesa.partida), "5* 1*");
@@ -172,6 +116,55 @@ TEST(Colocacion, A_Placed_Chip_Neither_Pays_Nor_Hits_Nor_Leaves_A_Stack) {
     mesa.juego.Mover(BLANCA, 13, 12);
     EXPECT_EQ(mesa.escritorio.Leer(), (Diario{Suena("strike"), OCUPADO}));
     EXPECT_EQ(Pila_En(mesa.partida, 12).Cuenta(), 14);
+}
+
+constexpr const char* MEDIO = "B 0x2 11x3 20x6 bar2 | C 5x6 12x4 bar1 | dice 3 1 | home BC";
+
+TEST(Validez, Every_Kind_Of_Fault_Is_Named) {
+    const std::pair<const char*, std::function<void(Partida&)>> casos[] = {
+        {"Blanca(20) does not exist", [](Partida& p) { p.LST[0].Poner(20); }},
+        {"the white chip 1 stands in 2 places", [](Partida& p) { p.LST[11].Poner(1); }},
+        {"Blanca(0) is misplaced", [](Partida& p) { p.Blanca[0].Left += 1; }},
+        {"Cafe(10) is misplaced", [](Partida& p) { p.Cafe[10].Left = 255; }},
+        {"Blanca(13) is misplaced", [](Partida& p) { p.Blanca[13].Top = 3391; }},
+        {"Cafe(14) is wrongly enabled", [](Partida& p) { p.Cafe[14].Enabled = true; }},
+        {"Cafe(1) is hidden", [](Partida& p) { p.Cafe[1].Visible = false; }},
+        {"point 0: wrong owner", [](Partida& p) { p.Puntos[0].Owner = NADIE; }},
+        {"point 5: wrong height", [](Partida& p) { p.Puntos[5].Y = 300; }},
+        {"Cafe(4) is drawn over", [](Partida& p) { p.Cafe[4].ZOrder = p.Frente + 1; }},
+        {"tray 0: wrong height", [](Partida& p) { p.Altura_Cafe = 0; }},
+        {"tray 1 is shown without", [](Partida& p) { p.Adios[1].Visible = false; }},
+        {"tray 0 holds chips before", [](Partida& p) { p.Cafe_En_Casa = False; }},
+        {"Dado1 is out of range", [](Partida& p) { p.Dado1 = 7; }},
+        {"Dado1 shows another face", [](Partida& p) { p.Dado1 = 0; }},
+        {"a flag is neither", [](Partida& p) { p.Jugando = 1; }},
+        {"Turno is no colour", [](Partida& p) { p.Turno = 2; }},
+        {"Nivel is no level", [](Partida& p) { p.Nivel = 3; }},
+        {"Dobles is above 2", [](Partida& p) { p.Dobles = 3; }},
+        {"Origen is no place", [](Partida& p) { p.Origen = ORIGEN_COLOCACION; }},
+    };
+    const Mesa mesa(MEDIO);
+    for (const auto& [nombre, romper] : casos) {
+        SCOPED_TRACE(nombre);
+        Partida rota = mesa.partida;
+        romper(rota);
+        const auto faltas = Faltas(rota);
+        EXPECT_TRUE(std::any_of(
+            faltas.begin(), faltas.end(),
+            [&, inicio = nombre](const std::string& falta) { return falta.starts_with(inicio); }))
+            << ::testing::PrintToString(faltas);
+    }
+}
+
+TEST(Validez, A_Position_In_One_Line) {
+    Mesa mesa(MEDIO);
+    EXPECT_TRUE(Es_Valida(mesa.partida));
+    EXPECT_EQ(Texto(mesa.partida),
+              "turno B, dados 3+1, blancas 0x2 11x3 20x6 barra x2 fuera x2, "
+              "cafes 5x6 12x4 barra x1 fuera x4");
+    Poner(mesa.juego, mesa.partida, "turn C | dice 2 2 | doubles 1");
+    EXPECT_EQ(Texto(mesa.partida),
+              "turno C, dados 2+2 dobles 1, blancas 0x2 11x5 16x3 18x5, cafes 5x5 7x3 12x5 23x2");
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
+// The dice, the turn and the pass.
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cmath>
 
 #include "tests/apoyo/diario.h"
@@ -9,81 +9,45 @@
 namespace corvanda::pruebas {
 namespace {
 
+// Turno, Jugando and the dice.
 std::string Foto(const Partida& partida) {
-    return "turno " + std::to_string(partida.Turno) + " jugando " +
-           std::to_string(partida.Jugando) + ": " + Dados_De(partida);
+    return std::to_string(partida.Turno) + " " + std::to_string(partida.Jugando) + ": " +
+           Dados_De(partida);
 }
 
-TEST(Dados, A_Roll_Goes_Step_By_Step_Between_Four_Passes) {
-    Mesa mesa("B 0x15 | C 12x15 | dice 0 2");
-    mesa.partida.Sonido = True;
-    Diario fotos;
-    for (int pase = 1; pase <= 4; ++pase) {
-        mesa.escritorio.En_El_Pase(pase, [&] {
-            fotos.push_back(Foto(mesa.partida));
-            EXPECT_EQ(mesa.escritorio.diario.back(), Suena("bounce"));
-        });
-    }
-    mesa.escritorio.Dados({4, 4});
-    mesa.Jugar(0, 2);
-    fotos.push_back(Foto(mesa.partida));
-    EXPECT_EQ(fotos, (Diario{
-                         "turno -1 jugando 0: 0 0",
-                         "turno -1 jugando 0: 4* 0",
-                         "turno -1 jugando 0: 4* 4 x2",
-                         "turno -1 jugando 0: 4* 4* x2",
-                         "turno -1 jugando -1: 4* 4* x2",
-                     }));
-    EXPECT_EQ(mesa.escritorio.Pases(), 4);
-    EXPECT_EQ(mesa.escritorio.diario.back(), Suena("click1"));
-    EXPECT_EQ(mesa.partida.Dado[1].ZOrder, mesa.partida.Frente);
-    EXPECT_EQ(mesa.partida.Dado[0].ZOrder, mesa.partida.Frente - 1);
-    EXPECT_EQ(Faltas(mesa.partida), Diario{});
-}
-
-TEST(Dados, A_Roll_Without_Double_Ends_An_Old_One_And_Is_Silent_With_The_Sound_Off) {
-    Mesa mesa("dice 5 5");
-    mesa.escritorio.Dados({6, 1});
-    mesa.juego.Tirar_Dados();
-    EXPECT_EQ(Foto(mesa.partida), "turno -1 jugando -1: 6* 1*");
-    EXPECT_EQ(mesa.escritorio.Leer(), Diario{});
-}
-
-TEST(Dados, Every_Random_Number_Gives_Its_Face) {
-    struct Tiro {
-        double r;
-        int cara;
-    };
-    const Tiro tiros[] = {{0, 1},      {0.0999, 1}, {0.1, 2}, {0.2999, 2},
-                          {0.3, 2},    {0.3001, 3}, {0.5, 4}, {0.7, 4},
-                          {0.7001, 5}, {0.8999, 5}, {0.9, 6}, {std::nextafter(1.0, 0.0), 6}};
-    Mesa mesa;
-    for (const auto& [r, cara] : tiros) {
-        mesa.escritorio.Azares({r, r});
-        mesa.juego.Tirar_Dados();
-        EXPECT_EQ(mesa.partida.Dado1, cara) << r;
-        EXPECT_EQ(mesa.partida.Dado2, cara) << r;
+TEST(Dados, The_Last_Die_Brings_A_Roll_In_Four_Passes) {
+    const char* const filas[][3] = {{"B 0x15 | C 12x15 | dice 0 2", "0/2", "bounce"},
+                                    {"B 19x4 23x10 | C 12x15 | dice 0 5", "19/A1", "Pop2"}};
+    for (const auto& [posicion, accion, sonido] : filas) {
+        Mesa mesa(posicion);
+        mesa.partida.Sonido = True;
+        Diario fotos;
+        for (int pase = 1; pase <= 4; ++pase) {
+            mesa.escritorio.En_El_Pase(pase, [&] { fotos.push_back(Foto(mesa.partida)); });
+        }
+        mesa.escritorio.Dados({4, 4});
+        mesa.Hacer(accion);
+        fotos.push_back(Foto(mesa.partida));
+        EXPECT_EQ(fotos, (Diario{"-1 0: 0 0", "-1 0: 4* 0", "-1 0: 4* 4 x2", "-1 0: 4* 4* x2",
+                                 "-1 -1: 4* 4* x2"}));
+        EXPECT_EQ(mesa.escritorio.Pases(), 4);
+        EXPECT_EQ(mesa.escritorio.Leer(), (Diario{Suena(sonido), Suena("click1")}));
+        EXPECT_EQ(mesa.partida.Dado[1].ZOrder, mesa.partida.Frente);
+        EXPECT_EQ(mesa.partida.Dado[0].ZOrder, mesa.partida.Frente - 1);
         EXPECT_EQ(Faltas(mesa.partida), Diario{});
     }
 }
 
-TEST(Dados, The_Outer_Faces_Come_Half_As_Often) {
+TEST(Dados, Every_Random_Number_Gives_Its_Face) {
+    const double limites[][2] = {{0, 0.0999}, {0.1, 0.3},       {0.3001, 0.4999},
+                                 {0.5, 0.7},  {0.7001, 0.8999}, {0.9, std::nextafter(1.0, 0.0)}};
     Mesa mesa;
-    mesa.escritorio.Sembrar(20);
-    std::array<int, 7> primero{};
-    std::array<int, 7> segundo{};
-    constexpr int TIROS = 20000;
-    for (int i = 0; i < TIROS; ++i) {
+    for (int cara = 1; cara <= 6; ++cara) {
+        mesa.escritorio.Azares({limites[cara - 1][0], limites[cara - 1][1]});
         mesa.juego.Tirar_Dados();
-        ++primero.at(static_cast<std::size_t>(mesa.partida.Dado1));
-        ++segundo.at(static_cast<std::size_t>(mesa.partida.Dado2));
-    }
-    for (const auto& veces : {primero, segundo}) {
-        EXPECT_EQ(veces[0], 0);
-        for (std::size_t cara = 1; cara <= 6; ++cara) {
-            const double esperado = cara == 1 || cara == 6 ? 0.1 : 0.2;
-            EXPECT_NEAR(veces.at(cara), TIROS * esperado, TIROS * 0.01) << cara;
-        }
+        EXPECT_EQ(mesa.partida.Dado1, cara);
+        EXPECT_EQ(mesa.partida.Dado2, cara);
+        EXPECT_EQ(Faltas(mesa.partida), Diario{});
     }
 }
 
@@ -91,70 +55,104 @@ TEST(Dados, The_Dialog_Leaves_The_Opposite_Of_The_Side_That_Starts) {
     for (const Integer turno : {BLANCA, CAFE, NADIE}) {
         Mesa mesa;
         Volado_Fijo volado(mesa.partida, turno);
-        bool puesto = false;
         volado.mientras = [&] {
-            puesto = mesa.partida.Nivel == AVANZADO && mesa.escritorio.Pases() == 0 &&
-                     mesa.escritorio.diario.back() == "puntero normal";
+            EXPECT_EQ(mesa.partida.Nivel, AVANZADO);
+            EXPECT_EQ(mesa.escritorio.diario.back(), "puntero normal");
         };
         mesa.escritorio.Dados({1, 3});
         mesa.juego.Empezar(AVANZADO, volado);
-        EXPECT_TRUE(puesto);
         EXPECT_EQ(mesa.partida.Turno, -turno);
         EXPECT_EQ(mesa.partida.Jugando, True);
-        EXPECT_EQ(Faltas(mesa.partida), Diario{});
     }
 }
 
-TEST(Dados, The_Computer_Plays_Brown_When_The_Level_Says_So) {
-    struct Caso {
-        Byte nivel;
-        Integer turno;
-        int turnos;
-    };
-    const Caso casos[] = {{DOS_PERSONAS, CAFE, 0},   {PRINCIPIANTE, CAFE, 1}, {AVANZADO, CAFE, 1},
-                          {PRINCIPIANTE, BLANCA, 0}, {AVANZADO, BLANCA, 0},   {AVANZADO, NADIE, 0}};
-    for (const Caso& caso : casos) {
-        SCOPED_TRACE(std::to_string(caso.nivel) + ", " + std::to_string(caso.turno));
-        Guion guion;
-        Mesa mesa(&guion);
-        guion.turno = [&](Juego& juego) {
-            EXPECT_TRUE(juego.Computadora_Juega());
-            EXPECT_EQ(Foto(mesa.partida), "turno -1 jugando -1: 5* 6*");
-            EXPECT_EQ(mesa.escritorio.diario, Diario{Suena("click1")});
-        };
-        mesa.partida.Sonido = True;
-        mesa.partida.Nivel = caso.nivel;
-        mesa.partida.Turno = static_cast<Integer>(-caso.turno);
-        mesa.escritorio.Dados({5, 6});
-        mesa.juego.Tirar_Dados();
-        EXPECT_EQ(guion.turnos, caso.turnos);
-        EXPECT_FALSE(mesa.juego.Computadora_Juega());
-    }
-}
+struct Peticion_De_Pase {
+    const char* posicion;
+    int dado;  // that must be played first, 0 for an accepted pass
+};
 
-TEST(Dados, A_Delay_Is_One_Pass_And_Takes_Its_Time_Only_In_The_Computers_Pause) {
-    Guion guion;
-    Mesa mesa("B 0x15 | C 12x15 | dice 0 2", &guion);
-    for (const Integer t : std::initializer_list<Integer>{0, 1000, 32000, -1}) {
-        mesa.juego.Delay(t);
-    }
-    EXPECT_EQ(mesa.escritorio.Pases(), 4);
-    EXPECT_EQ(mesa.escritorio.Pases_De_Pausa(), 0);
-
-    // A turn of two moves with a pause before each; the rolls before and after it take no time.
-    guion.turno = [&](Juego& juego) {
-        for (const Integer ficha : std::initializer_list<Integer>{14, 13}) {
-            juego.Delay(32000);
-            juego.Poner_Origen(12);
-            juego.Mover(CAFE, ficha, ficha == 14 ? 11 : 10);
+void Probar(const Peticion_De_Pase& caso, const std::string& negado, const std::string& blanca,
+            const std::string& cafe) {
+    SCOPED_TRACE(caso.posicion);
+    for (const Boolean efectos : {True, False}) {
+        Mesa mesa(caso.posicion);
+        mesa.partida.Sonido = efectos;
+        const Partida antes = mesa.partida;
+        Integer turno_en_la_caja = NADIE;
+        mesa.escritorio.Contestar(button::Ok, [&] { turno_en_la_caja = mesa.partida.Turno; });
+        mesa.escritorio.Dados({2, 3});
+        mesa.Hacer("pass");
+        EXPECT_EQ(turno_en_la_caja, antes.Turno);
+        if (caso.dado != 0) {
+            const std::string caja = "caja 64 [Corvanda :] " + negado + std::to_string(caso.dado);
+            EXPECT_EQ(mesa.escritorio.Leer(), Se_Oye(efectos, "strike", caja));
+            EXPECT_TRUE(mesa.partida == antes) << Texto(mesa.partida);
+            continue;
         }
-    };
-    mesa.partida.Nivel = PRINCIPIANTE;
-    mesa.escritorio.Dados({1, 2, 3, 4});
-    mesa.Jugar(0, 2);
-    EXPECT_EQ(Foto(mesa.partida), "turno 1 jugando -1: 3* 4*");
-    EXPECT_EQ(mesa.escritorio.Pases(), 4 + 4 + 2 + 4);
-    EXPECT_EQ(mesa.escritorio.Pases_De_Pausa(), 2);
+        Diario esperado{"caja 64 [Corvanda] " + (antes.Turno == BLANCA ? blanca : cafe)};
+        if (efectos == True) esperado.push_back(Suena("click1"));
+        EXPECT_EQ(mesa.escritorio.Leer(), esperado);
+        EXPECT_EQ(mesa.partida.Turno, -antes.Turno);
+        EXPECT_EQ(Dados_De(mesa.partida), "2* 3*");
+        EXPECT_EQ(mesa.partida.Jugando, True);
+    }
+}
+
+// A lone chip closes nothing; a used die does not count.
+TEST(Pase, Refused_While_A_Chip_On_The_Bar_Can_Enter) {
+    const Peticion_De_Pase casos[] = {{"B bar1 | C 5x2 | dice 6 4", 4},
+                                      {"B bar1 | C 3x2 | dice 6 4", 6},
+                                      {"B bar1 | C 5x1 3x2 | dice 4 6", 6},
+                                      {"B bar1 | C 12x15 | dice 0 1", 1},
+                                      {"turn C | C bar1 | B 18x2 | dice 6 4", 4},
+                                      {"turn C | C bar1 | B 22x1 | dice 0 2", 2},
+                                      {"B bar1 | C 5x2 3x2 | dice 6 4", 0},
+                                      {"B bar1 | C 5x2 | dice 6 0", 0},
+                                      {"B bar1 | C 2x2 | dice 3 3", 0},
+                                      {"turn C | C bar1 | B 22x2 | dice 0 2", 0},
+                                      {"turn C | C bar1 | B 18x2 20x3 | dice 4 6", 0}};
+    for (const auto& caso : casos) {
+        Probar(caso, "You have to play the ", "The player with the white chips passed",
+               "The player with brown chips passed");
+    }
+}
+
+// From the lowest point up. A larger die that leads off the board leaves the smaller one to White;
+// Brown's lowest chip then ends the search. The bar of the other side does not count.
+TEST(Pase, Refused_While_A_Chip_On_A_Point_Can_Move) {
+    const Peticion_De_Pase casos[] = {{"B 10x2 20x13 | C 5x15 | dice 5 2", 5},
+                                      {"B 10x9 | C 15x2 | dice 5 2", 2},
+                                      {"B 10x4 11x1 | C 15x2 12x2 | dice 5 2", 5},
+                                      {"B 10x4 11x1 | C 15x2 | dice 0 5", 5},
+                                      {"B 18x15 | C 5x15 | dice 5 0", 5},
+                                      {"B 21x15 | C 5x15 | dice 6 2", 2},
+                                      {"B 20x15 | C 5x15 | dice 4 2", 2},
+                                      {"B 19x7 20x8 | C 21x2 | dice 5 2", 2},
+                                      {"B 10x15 | C bar1 | dice 5 2", 5},
+                                      {"turn C | C 5x2 10x9 | B 12x5 | dice 5 3", 5},
+                                      {"turn C | C 12x9 | B 7x2 | dice 5 3", 3},
+                                      {"turn C | C 12x9 15x1 | B 7x2 9x2 | dice 5 3", 5},
+                                      {"B 10x9 | C 15x2 12x2 | dice 5 2", 0},
+                                      {"B 10x9 | C 15x2 | dice 5 0", 0},
+                                      {"B 20x7 22x8 | C 5x15 | dice 6 5", 0},
+                                      {"B 22x15 | C 5x15 | dice 6 2", 0},
+                                      {"B 19x7 20x8 | C 21x2 22x2 | dice 5 2", 0},
+                                      {"turn C | C 12x9 | B 7x2 9x2 | dice 5 3", 0},
+                                      {"turn C | C 2x1 12x9 | B 23x9 | dice 5 3", 0},
+                                      {"turn C | C 4x1 12x9 | B 23x9 | dice 1 5", 0},
+                                      {"turn C | C 3x1 12x9 | B 23x9 | dice 4 1", 0},
+                                      {"turn C | C 4x9 | B 23x9 | dice 4 1", 4}};
+    for (const auto& caso : casos) {
+        Probar(caso, "You have to play the  ", "The player with the white chips passed",
+               "The player with the brown chips passed");
+    }
+}
+
+TEST(Pase, Nothing_While_No_Game_Runs) {
+    Mesa mesa("B bar1 0x14 | C 5x2 3x2 12x11 | dice 6 4");
+    mesa.partida.Jugando = False;
+    mesa.Hacer("pass");
+    EXPECT_EQ(mesa.escritorio.Leer(), Diario{});
 }
 
 }  // namespace

@@ -1,108 +1,92 @@
+// The passes of the event loop, and the end of the program when the system asks for it.
 #include "desktop/event_loop.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QTimer>
-#include <chrono>
 #include <ctime>
 #include <thread>
 
-namespace corvanda {
+#include "desktop/system_close.h"
+#include "tests/desktop/desk.h"
+
+namespace corvanda::pruebas {
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-/// Runs an action in the next pass.
-template <class Action>
-void Post(Action action) {
-    QMetaObject::invokeMethod(qApp, action, Qt::QueuedConnection);
+std::chrono::nanoseconds TimeOf(QtEventLoop& loop, int passes) {
+    const auto begin = std::chrono::steady_clock::now();
+    for (int i = 0; i < passes; ++i) loop.DoEventsPaced();
+    return std::chrono::steady_clock::now() - begin;
 }
 
-Clock::duration TimeOf(const std::function<void()>& action) {
-    const auto begin = Clock::now();
-    action();
-    return Clock::now() - begin;
-}
-
-TEST(EventLoopTest, both_passes_handle_what_is_pending) {
+TEST(EventLoop, passes_handle_what_is_pending_and_may_run_inside_passes) {
     QtEventLoop loop;
-    const std::function<void()> passes[] = {[&] { loop.DoEvents(); },
-                                            [&] { loop.DoEventsPaced(); }};
-    for (const auto& pass : passes) {
-        int handled = 0;
-        Post([&] { ++handled; });
-        Post([&] { ++handled; });
-        pass();
-        EXPECT_EQ(handled, 2);
-    }
+    int depth = 0;
+    const std::function<void()> nest = [&] {
+        if (++depth < 5) QTimer::singleShot(0, nest);
+        depth % 2 != 0 ? loop.DoEventsPaced() : loop.DoEvents();
+    };
+    nest();
+    EXPECT_EQ(depth, 5);
 }
 
-TEST(EventLoopTest, timers_fire_during_paced_passes) {
+TEST(EventLoop, three_paced_passes_are_a_cycle_and_cost_no_processor_time) {
     QtEventLoop loop;
     QTimer timer;
     int ticks = 0;
     QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
     timer.start(10);
-    for (int i = 0; i < 60; ++i) loop.DoEventsPaced();
-    EXPECT_GE(ticks, 5);
-}
-
-TEST(EventLoopTest, three_paced_passes_are_a_cycle_and_cost_no_processor_time) {
-    QtEventLoop loop;
     loop.DoEventsPaced();
     const std::clock_t used = std::clock();
-    const auto lasted = TimeOf([&] {
-        for (int i = 0; i < 60; ++i) loop.DoEventsPaced();
-    });
-    EXPECT_GE(lasted, 190ms);
+    EXPECT_GE(TimeOf(loop, 60), 190ms);
     EXPECT_LT(std::clock() - used, CLOCKS_PER_SEC / 10) << "waited by turning round and round";
-}
-
-TEST(EventLoopTest, time_lost_inside_a_pass_is_not_caught_up) {
-    QtEventLoop loop;
+    EXPECT_GE(ticks, 5);
+    QTimer::singleShot(0, [] { std::this_thread::sleep_for(200ms); });
     loop.DoEventsPaced();
-    Post([] { std::this_thread::sleep_for(200ms); });
-    loop.DoEventsPaced();
-    EXPECT_GE(TimeOf([&] {
-                  for (int i = 0; i < 30; ++i) loop.DoEventsPaced();
-              }),
-              80ms);
+    EXPECT_GE(TimeOf(loop, 30), 80ms) << "time lost inside a pass is not caught up";
 }
 
-TEST(EventLoopTest, passes_may_run_inside_passes) {
-    QtEventLoop loop;
-    int depth = 0;
-    int deepest = 0;
-    std::function<void()> nest = [&] {
-        deepest = std::max(deepest, ++depth);
-        if (depth < 5) Post(nest);
-        depth % 2 != 0 ? loop.DoEventsPaced() : loop.DoEvents();
-        --depth;
-    };
-    Post(nest);
-    loop.DoEvents();
-    EXPECT_EQ(deepest, 5);
-    EXPECT_EQ(depth, 0);
-}
-
-TEST(EventLoopTest, passes_work_after_the_program_was_told_to_quit) {
+TEST(EventLoop, passes_go_on_after_the_program_was_told_to_quit) {
     QtEventLoop loop;
     bool handled = false;
-    Clock::duration lasted{};
+    std::chrono::nanoseconds lasted{};
     QTimer::singleShot(0, [&] {
-        QCoreApplication::exit(0);
-        Post([&] { handled = true; });
+        QCoreApplication::exit(4);
+        QTimer::singleShot(0, [&] { handled = true; });
         loop.DoEvents();
-        lasted = TimeOf([&] {
-            for (int i = 0; i < 9; ++i) loop.DoEventsPaced();
-        });
+        lasted = TimeOf(loop, 9);
     });
-    QApplication::exec();
+    EXPECT_EQ(QApplication::exec(), 4) << "the quit is not used up by the passes";
     EXPECT_TRUE(handled);
     EXPECT_GE(lasted, 25ms);
 }
 
+class SystemCloseTest : public testing::Test {
+  protected:
+    SystemCloseTest() {
+        QObject::connect(&system, &SystemClose::requested, [this] { ++requests; });
+    }
+    int requests = 0;
+    SystemClose system;
+};
+
+TEST_F(SystemCloseTest, each_signal_and_the_sessions_quit_become_requests) {
+    QWidget window;
+    window.show();
+    int expected = 0;
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        std::thread([number] { std::raise(number); }).join();
+        EXPECT_EQ(requests, expected) << "nothing is emitted inside the signal handler";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return requests > expected; })) << number;
+        expected = requests;
+    }
+    for (int i = 0; i < 100000; ++i) std::raise(SIGTERM);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return requests > expected; })) << "a flood blocks nobody";
+    expected = requests;
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+    EXPECT_EQ(requests, expected + 1);
+    EXPECT_TRUE(window.isVisible());
+}
+
 }  // namespace
-}  // namespace corvanda
+}  // namespace corvanda::pruebas

@@ -1,229 +1,130 @@
+// The settings on the disk: whole or as before, whatever happens.
 #include "desktop/settings_file.h"
 
-#include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 
-#include <QDir>
-#include <QFile>
 #include <QLockFile>
-#include <QTemporaryDir>
 #include <csignal>
-#include <functional>
 
-namespace corvanda {
+#include "tests/desktop/desk.h"
+
+namespace corvanda::pruebas {
 namespace {
-
-using testing::AssertionFailure;
-using testing::AssertionResult;
-using testing::AssertionSuccess;
 
 const std::string app = "/opt/juegos\\Corvanda.Ini";
 
 class SettingsFileTest : public testing::Test {
   protected:
-    QTemporaryDir folder;
-    QString file = folder.filePath("corvanda/settings.json");
-
-    void Put(const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(file).path());
-        QFile out(file);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(bytes);
+    std::string Stored(const std::string& of = app) const {
+        return SettingsFile(file).GetSetting(of, "Config", "Sonido", "default");
     }
-    static QByteArray Bytes(const QString& name) {
-        QFile in(name);
-        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray("(none)");
-    }
-    std::string Stored(const std::string& application, const std::string& key) const {
-        return SettingsFile(file).GetSetting(application, "Config", key, "default");
-    }
-    std::string Store(const std::string& application, const std::string& key,
-                      const std::string& value) const {
+    std::string Store(const std::string& value, const std::string& of = app) const {
         SettingsFile settings(file);
-        settings.SaveSetting(application, "Config", key, value);
+        settings.SaveSetting(of, "Config", "Sonido", value);
         return settings.Commit();
     }
-    QStringList Files() const {
-        return QDir(QFileInfo(file).path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    std::string Failure(const char* reason) const {
+        return "The settings could not be saved in " + file.toStdString() + ": " + reason + ".";
     }
+    void ExpectToStore(const char* what) const {
+        EXPECT_EQ(Store("0"), "") << what;
+        EXPECT_EQ(Stored(), "0") << what;
+    }
+
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("corvanda/settings.json");
 };
 
-TEST_F(SettingsFileTest, lies_in_the_persons_configuration_folder) {
-    const QString expected = qEnvironmentVariable("XDG_CONFIG_HOME") + "/corvanda/settings.json";
-    EXPECT_EQ(SettingsFile().FileName(), expected);
-}
-
-TEST_F(SettingsFileTest, a_later_run_reads_what_was_committed) {
-    const char* texts[] = {"-1", "", " 100", "línea \"uno\"\n\tdos\\tres", "½ 名 🎲", "null"};
-    for (const char* text : texts) {
-        ASSERT_EQ(Store(app, text, text), "");
-        EXPECT_EQ(Stored(app, text), text);
-    }
-    EXPECT_EQ(Files(), QStringList{"settings.json"}) << "nothing else is left in the folder";
-}
-
-TEST_F(SettingsFileTest, nothing_is_written_or_answered_before_the_commit) {
-    SettingsFile settings(file);
-    settings.SaveSetting(app, "Config", "Sonido", "0");
-    EXPECT_EQ(settings.GetSetting(app, "Config", "Sonido", "-1"), "-1");
-    EXPECT_FALSE(QFile::exists(file));
-    EXPECT_EQ(settings.Commit(), "");
-    EXPECT_EQ(settings.GetSetting(app, "Config", "Sonido", "-1"), "0");
-}
-
-TEST_F(SettingsFileTest, an_empty_commit_creates_nothing) {
-    EXPECT_EQ(SettingsFile(file).Commit(), "");
-    EXPECT_FALSE(QFile::exists(file));
-}
-
-TEST_F(SettingsFileTest, what_other_copies_wrote_meanwhile_survives) {
-    ASSERT_EQ(Store("/opt/otra\\Corvanda.Ini", "Nivel", "Avanzado"), "");
+TEST_F(SettingsFileTest, a_later_run_reads_what_was_committed_and_others_wrote_meanwhile) {
+    EXPECT_EQ(SettingsFile().FileName(),
+              qEnvironmentVariable("XDG_CONFIG_HOME") + "/corvanda/settings.json");
     SettingsFile mine(file);
-    EXPECT_EQ(mine.GetSetting(app, "Config", "Nivel", "Principiante"), "Principiante");
-    ASSERT_EQ(Store("/opt/tercera\\Corvanda.Ini", "Velocidad", "7"), "");
+    EXPECT_EQ(mine.Commit(), "");
     mine.SaveSetting(app, "Config", "Sonido", "0");
-    ASSERT_EQ(mine.Commit(), "");
-    EXPECT_EQ(Stored("/opt/otra\\Corvanda.Ini", "Nivel"), "Avanzado");
-    EXPECT_EQ(Stored("/opt/tercera\\Corvanda.Ini", "Velocidad"), "7");
-    EXPECT_EQ(Stored(app, "Sonido"), "0");
-    EXPECT_EQ(SettingsFile(file).GetSetting(app, "CONFIG", "Sonido", "none"), "none");
+    EXPECT_EQ(mine.GetSetting(app, "Config", "Sonido", "-1"), "-1") << "not before the commit";
+    EXPECT_FALSE(QFile::exists(file));
+    for (const char* text : {"-1", "", " 100", "línea \"uno\"\n\tdos\\tres", "null"}) {
+        ASSERT_EQ(Store(text, "/opt/otra"), "");
+        EXPECT_EQ(Stored("/opt/otra"), text);
+    }
+    EXPECT_EQ(mine.Commit(), "");
+    EXPECT_EQ(Stored(), "0");
+    EXPECT_EQ(Stored("/opt/otra"), "null");
+    EXPECT_EQ(QDir(folder.filePath("corvanda")).entryList(QDir::Files | QDir::Hidden),
+              QStringList{"settings.json"});
 }
 
-TEST_F(SettingsFileTest, parts_of_another_type_give_the_default_and_are_replaced_alone) {
-    const QByteArray name = R"("/opt/juegos\\Corvanda.Ini")";
-    const QByteArray wrong[] = {
-        "{" + name + R"(:5, "x":[1]})",
-        "{" + name + R"(:{"Config":"text"}, "x":[1]})",
-        "{" + name + R"(:{"Config":{"Sonido":-1}}, "x":[1]})",
-        "{" + name + R"(:{"Config":{"Sonido":null}}, "x":[1]})",
+TEST_F(SettingsFileTest, whatever_stands_there_gives_defaults_and_gives_way) {
+    const QByteArray name = R"({"x":[1], "/opt/juegos\\Corvanda.Ini":)";
+    const struct {
+        QByteArray bytes;
+        bool damaged;
+    } table[] = {
+        {name + "5}", false},
+        {name + R"({"Config":{"Sonido":-1}}})", false},
+        {R"({"x":{"Config":)", true},
+        {"[1,2]", true},
+        {"", true},
+        {QByteArray(100000, '['), true},
+        {R"({"x":")" + QByteArray(1 << 20, 'a') + R"("})", true},
+        {Noise(5000), true},
     };
-    for (const QByteArray& bytes : wrong) {
-        Put(bytes);
-        EXPECT_EQ(Stored(app, "Sonido"), "default") << bytes.constData();
-        EXPECT_EQ(Store(app, "Sonido", "0"), "");
-        EXPECT_EQ(Stored(app, "Sonido"), "0") << bytes.constData();
-        EXPECT_TRUE(Bytes(file).contains(R"("x")")) << Bytes(file).constData();
-        EXPECT_FALSE(QFile::exists(file + ".damaged"));
+    for (const auto& row : table) {
+        QFile::remove(file + ".damaged");
+        WriteBytes(file, row.bytes);
+        EXPECT_EQ(Stored(), "default") << row.bytes.left(80).constData();
+        EXPECT_EQ(ReadBytes(file), row.bytes) << "reading changes nothing";
+        ExpectToStore(row.bytes.left(80).constData());
+        EXPECT_EQ(ReadBytes(file + ".damaged"), row.damaged ? row.bytes : "(none)");
+        EXPECT_EQ(ReadBytes(file).contains(R"("x")"), !row.damaged) << "the rest is kept";
     }
 }
 
-TEST_F(SettingsFileTest, a_damaged_file_gives_defaults_and_is_kept_beside_the_new_one) {
-    const QByteArray damaged[] = {
-        R"({"x":{"Config":)",
-        "[1,2]",
-        QByteArray(64, '\0'),
-        "\xff\xfe{}",
-        QByteArray(100000, '['),
-        "garbage",
-        QByteArray(R"({"x":")") + QByteArray(1 << 20, 'a') + R"("})",
-    };
-    for (const QByteArray& bytes : damaged) {
-        Put(bytes);
-        EXPECT_EQ(Stored(app, "Sonido"), "default");
-        EXPECT_EQ(Bytes(file), bytes) << "reading changes nothing";
-        EXPECT_EQ(Store(app, "Sonido", "0"), "");
-        EXPECT_EQ(Stored(app, "Sonido"), "0");
-        EXPECT_EQ(Bytes(file + ".damaged"), bytes);
-    }
-}
-
-TEST_F(SettingsFileTest, what_is_no_ordinary_file_is_not_waited_for) {
-    QDir().mkpath(QFileInfo(file).path());
-    ASSERT_EQ(mkfifo(file.toLocal8Bit().constData(), 0600), 0);
-    EXPECT_EQ(Stored(app, "Sonido"), "default");
-    EXPECT_EQ(Store(app, "Sonido", "0"), "");
-    EXPECT_EQ(Stored(app, "Sonido"), "0");
-}
-
-TEST_F(SettingsFileTest, a_link_is_followed_and_stays_a_link) {
-    const QString real = folder.filePath("real.json");
-    Put("");
-    ASSERT_TRUE(QFile::remove(file));
-    ASSERT_TRUE(QFile::link(real, file));
-    EXPECT_EQ(Store(app, "Sonido", "0"), "");
-    EXPECT_TRUE(QFileInfo(file).isSymLink());
-    EXPECT_TRUE(Bytes(real).contains("Sonido"));
-    EXPECT_EQ(Stored(app, "Sonido"), "0");
-}
-
-AssertionResult SaysWhy(const std::string& message, const QString& name, const char* reason) {
-    const std::string expected =
-        "The settings could not be saved in " + name.toStdString() + ": " + reason + ".";
-    return message == expected ? AssertionSuccess()
-                               : AssertionFailure() << message << "\nexpected " << expected;
-}
-
-TEST_F(SettingsFileTest, a_folder_that_cannot_be_made_is_told_and_may_be_retried) {
-    const QString blocker = folder.filePath("corvanda");
-    QFile plain(blocker);
-    ASSERT_TRUE(plain.open(QIODevice::WriteOnly));
-    SettingsFile settings(file);
-    EXPECT_EQ(settings.GetSetting(app, "Config", "Sonido", "-1"), "-1");
-    settings.SaveSetting(app, "Config", "Sonido", "0");
-    EXPECT_TRUE(SaysWhy(settings.Commit(), file, "the folder cannot be written"));
-    ASSERT_TRUE(plain.remove());
-    EXPECT_EQ(settings.Commit(), "");
-    EXPECT_EQ(Stored(app, "Sonido"), "0");
-}
-
-TEST_F(SettingsFileTest, a_folder_in_the_files_place_is_told) {
+TEST_F(SettingsFileTest, what_is_no_ordinary_file_is_neither_waited_for_nor_lost) {
+    WriteBytes(file, "");
+    QFile::remove(file);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+    EXPECT_EQ(Stored(), "default");
+    ExpectToStore("a pipe");
+    QFile::remove(file);
     QDir().mkpath(file);
-    EXPECT_TRUE(SaysWhy(Store(app, "Sonido", "0"), file, "the file cannot be written"));
-    EXPECT_TRUE(QFileInfo(file).isDir()) << "and it is still there";
+    EXPECT_EQ(Store("0"), Failure("the file cannot be written"));
+    QDir(folder.filePath("corvanda")).removeRecursively();
+    WriteBytes(folder.filePath("corvanda"), "a file in the folder's place");
+    EXPECT_EQ(Store("0"), Failure("the folder cannot be written"));
 }
-
-/// Lets no file grow beyond a number of bytes, as a disk that is nearly full.
-class NarrowDisk {
-  public:
-    explicit NarrowDisk(rlim_t bytes) {
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit narrow{bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &narrow);
-    }
-    ~NarrowDisk() {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
-    }
-    NarrowDisk(const NarrowDisk&) = delete;
-    NarrowDisk& operator=(const NarrowDisk&) = delete;
-
-  private:
-    rlimit before{};
-    void (*handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
-};
 
 TEST_F(SettingsFileTest, a_full_disk_is_told_and_leaves_the_old_file) {
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit narrow{500, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     for (const QByteArray& old : {QByteArray("{}"), QByteArray("damaged")}) {
         // The short text stays in a buffer until the end, the long one does not.
-        for (const int length : {1000, 100000}) {
-            Put(old);
-            const NarrowDisk narrow(500);
-            const std::string told = Store(app, "Nivel", std::string(length, 'x'));
-            EXPECT_TRUE(SaysWhy(told, file, "the disk is full or cannot be written")) << length;
-            EXPECT_EQ(Bytes(file), old) << length;
-            EXPECT_EQ(Files(), QStringList{"settings.json"}) << length;
+        for (const std::size_t length : {1000U, 100000U}) {
+            WriteBytes(file, old);
+            setrlimit(RLIMIT_FSIZE, &narrow);
+            const std::string told = Store(std::string(length, 'x'));
+            setrlimit(RLIMIT_FSIZE, &before);
+            EXPECT_EQ(told, Failure("the disk is full or cannot be written")) << length;
+            EXPECT_EQ(ReadBytes(file), old) << length;
         }
     }
+    EXPECT_EQ(QDir(folder.filePath("corvanda")).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    std::signal(SIGXFSZ, handler);
 }
 
-TEST_F(SettingsFileTest, a_lock_held_by_another_is_told_and_the_file_kept) {
-    ASSERT_EQ(Store(app, "Sonido", "-1"), "");
+TEST_F(SettingsFileTest, another_programs_lock_counts_while_that_lives) {
+    ExpectToStore("no lock");
     QLockFile other(file + ".lock");
     ASSERT_TRUE(other.lock());
-    EXPECT_TRUE(SaysWhy(Store(app, "Sonido", "0"), file, "another program keeps the file locked"));
-    EXPECT_EQ(Stored(app, "Sonido"), "-1");
-}
-
-TEST_F(SettingsFileTest, the_lock_of_a_program_that_died_does_not_count) {
-    ASSERT_EQ(Store(app, "Sonido", "-1"), "");
-    QFile lock(file + ".lock");
-    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
-    lock.write("2147483646\nsomething\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n\n\n");
-    lock.close();
-    EXPECT_EQ(Store(app, "Sonido", "0"), "");
-    EXPECT_EQ(Stored(app, "Sonido"), "0");
+    EXPECT_EQ(Store("-1"), Failure("another program keeps the file locked"));
+    EXPECT_EQ(Stored(), "0");
+    other.unlock();
+    const QByteArray dead = "2147483646\nx\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n\n";
+    WriteBytes(file + ".lock", dead);
+    ExpectToStore("the lock of a program that died");
 }
 
 }  // namespace
-}  // namespace corvanda
+}  // namespace corvanda::pruebas

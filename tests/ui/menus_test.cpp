@@ -1,6 +1,4 @@
 // The menu bar, its shortcuts, and what the entries do.
-#include <gtest/gtest.h>
-
 #include <QMenu>
 #include <QMenuBar>
 
@@ -9,31 +7,20 @@
 namespace corvanda::pruebas {
 namespace {
 
-constexpr Qt::KeyboardModifiers CTRL = Qt::ControlModifier;
-
 /// The tree in lines: depth, name, caption, shortcut, "off", "mark" and "checked".
 void Escribir(const QWidget& menu, const std::string& sangria, std::vector<std::string>& lineas) {
     for (const QAction* entrada : menu.actions()) {
+        const std::string atajo = entrada->shortcut().toString().toStdString();
         std::string linea = sangria + entrada->objectName().toStdString() + " ";
         linea += entrada->isSeparator() ? "-" : "[" + entrada->text().toStdString() + "]";
-        if (!entrada->shortcut().isEmpty())
-            linea += " " + entrada->shortcut().toString().toStdString();
-        if (!entrada->isEnabled()) linea += " off";
+        linea += (atajo.empty() ? "" : " ") + atajo + (entrada->isEnabled() ? "" : " off");
         if (entrada->isCheckable()) linea += entrada->isChecked() ? " checked" : " mark";
         lineas.push_back(linea);
         if (entrada->menu() != nullptr) Escribir(*entrada->menu(), sangria + "  ", lineas);
     }
 }
 
-std::vector<std::string> Arbol(const Ventana& v) {
-    std::vector<std::string> lineas;
-    Escribir(*v.frm.menuBar(), "", lineas);
-    return lineas;
-}
-
 TEST(Menus, the_tree_is_as_designed_and_no_game_changes_it) {
-    Ventana v;
-    v.Abrir();
     const std::vector<std::string> esperado = {
         "mnuGame [&Game]",
         "  mnuNew [vs. &Player] Ctrl+J",
@@ -57,139 +44,94 @@ TEST(Menus, the_tree_is_as_designed_and_no_game_changes_it) {
         "  mnuAcerca [About...]",
         "mnuSalir [E&xit]",
     };
-    EXPECT_EQ(Arbol(v), esperado);
-    v.Poner("B 23x1 | C 0x1 | dice 6 5");
-    v.escritorio.Contestar();
-    v.raton.Arrastrar(v.Centro({Arreglo::Blanca, 0}), {375, 5900});
-    EXPECT_EQ(v.partida.Jugando, False) << "won";
-    EXPECT_EQ(Arbol(v), esperado);
+    Ventana v;
+    for (const char* posicion : {"dice 5 4", "B 23x1 | C 0x1 | dice 6 5"}) {
+        v.Poner(posicion);
+        v.partida.Jugando = False;
+        std::vector<std::string> lineas;
+        Escribir(*v.frm.menuBar(), "", lineas);
+        EXPECT_EQ(lineas, esperado);
+    }
 }
 
-TEST(Menus, a_new_game_by_each_way_to_it) {
+TEST(Menus, a_new_game_by_its_key_and_by_the_menu) {
     const struct {
-        const char* que;
-        std::function<void(Ventana&)> elige;
-        const char* nivel;  // as stored
+        Qt::Key tecla;  // without one: by the menu
+        const char *entrada, *nivel;
         Byte Nivel;
-        Integer contexto;
+        const char* contexto;
     } tabla[] = {
-        {"Ctrl+J", [](Ventana& v) { QTest::keyClick(&v.frm, Qt::Key_J, CTRL); }, "Avanzado", 0, 2},
-        {"Ctrl+C", [](Ventana& v) { QTest::keyClick(&v.frm, Qt::Key_C, CTRL); }, "Avanzado", 2, 1},
-        {"Ctrl+C", [](Ventana& v) { QTest::keyClick(&v.frm, Qt::Key_C, CTRL); }, "Principiante", 1,
-         1},
-        {"the menu", [](Ventana& v) { v.raton.Elegir("mnuGame", "mnuNew"); }, "Principiante", 0, 2},
-        {"the menu", [](Ventana& v) { v.raton.Elegir("mnuGame", "mnuVs"); }, "Avanzado", 2, 1},
+        {Qt::Key_J, "", "Avanzado", DOS_PERSONAS, "2"},
+        {Qt::Key_C, "", "Avanzado", AVANZADO, "1"},
+        {{}, "mnuNew", "Principiante", DOS_PERSONAS, "2"},
+        {{}, "mnuVs", "Principiante", PRINCIPIANTE, "1"},
     };
     for (const auto& fila : tabla) {
-        SCOPED_TRACE(fila.que);
         Ventana v;
         const std::string folder = v.escritorio.Path();
         v.escritorio.almacen[{folder + "\\Corvanda.Ini", "Config", "Nivel"}] = fila.nivel;
         v.Abrir();
         v.escritorio.Dados({6, 1, 5, 4});
-        v.vigilante.Esperar([&](QWidget& dialogo) {
-            EXPECT_EQ(dialogo.windowTitle(), "Player to Start");
-            EXPECT_FALSE(v.partida.Dado[0].Visible);
-            Sortear(dialogo);
-        });
-        fila.elige(v);
+        v.vigilante.Esperar(Sortear);
+        if (*fila.entrada != '\0') v.raton.Elegir("mnuGame", fila.entrada);
+        if (*fila.entrada == '\0') QTest::keyClick(&v.frm, fila.tecla, Qt::ControlModifier);
         ASSERT_TRUE(QTest::qWaitFor([&] { return v.partida.Jugando == True; }));
         EXPECT_EQ(v.partida.Nivel, fila.Nivel);
-        EXPECT_EQ(v.partida.Turno, BLANCA);
-        EXPECT_EQ(v.partida.Dado1, 5);
-        EXPECT_EQ(v.partida.Dado2, 4);
         v.Leer();
         QTest::keyClick(&v.frm, Qt::Key_F1);
-        const std::string ayuda = "ayuda " + folder + "\\corvanda.HLP ";
-        EXPECT_EQ(v.Leer(), Diario{ayuda + "1 " + std::to_string(fila.contexto)});
+        EXPECT_EQ(v.Leer(), Diario{"ayuda " + folder + "\\corvanda.HLP 1 " + fila.contexto});
     }
 }
 
-TEST(Menus, help_requests_name_the_file_beside_the_program) {
-    Ventana v;
-    v.Abrir();
-    const std::string ayuda = "ayuda " + v.escritorio.Path() + "\\corvanda.HLP ";
-    v.raton.Elegir("mnuAyuda", "mnuCont");
-    v.raton.Elegir("mnuAyuda", "mnuIndice");
-    QTest::keyClick(&v.frm, Qt::Key_F1);
-    QTest::keyClick(&v.frm, Qt::Key_F1, Qt::ShiftModifier);
-    QTest::keyClick(&v.frm, Qt::Key_F2);
-    EXPECT_EQ(v.Leer(), (Diario{ayuda + "3 0", ayuda + "257 0", ayuda + "1 0", ayuda + "1 0"}));
-    int acerca = 0;
-    v.frm.Poner_Acerca([&acerca] { ++acerca; });
-    v.raton.Elegir("mnuAyuda", "mnuAcerca");
-    EXPECT_EQ(acerca, 1);
-}
-
-TEST(Menus, a_level_is_marked_alone_and_holds_from_now_on) {
-    Ventana v;
-    v.Abrir();
-    EXPECT_EQ(v.partida.Nivel, DOS_PERSONAS);
-    const struct {
-        const char* entrada;
-        Byte Nivel;
-    } tabla[] = {{"mnuLev2", AVANZADO},
-                 {"mnuLev2", AVANZADO},
-                 {"mnuLev0", PRINCIPIANTE},
-                 {"mnuLev0", PRINCIPIANTE}};
-    for (const auto& fila : tabla) {
-        v.Entrada(fila.entrada)->trigger();
-        EXPECT_EQ(v.partida.Nivel, fila.Nivel);
-        EXPECT_EQ(v.Entrada("mnuLev0")->isChecked(), fila.Nivel == PRINCIPIANTE);
-        EXPECT_EQ(v.Entrada("mnuLev2")->isChecked(), fila.Nivel == AVANZADO);
-    }
-}
-
-TEST(Menus, a_level_chosen_between_two_people_hands_brown_to_the_computer_at_its_next_turn) {
+TEST(Menus, the_other_entries_do_what_they_say) {
     Guion computadora;
     Ventana v(Ventana::Cajas::Diario, &computadora);
+    v.Poner("B 0x1 11x14 | dice 6 5");
+    int acerca = 0;
+    v.frm.Poner_Acerca([&acerca] { ++acerca; });
+    const std::string ayuda = "ayuda " + v.escritorio.Path() + "\\corvanda.HLP ";
+    const Diario pase{BIP, "caja 64 [Corvanda :] You have to play the  6"};
+    const struct {
+        const char *menu, *entrada;  // without a menu: by its key
+        Qt::Key tecla;
+        Diario diario;
+    } tabla[] = {
+        {"mnuAyuda", "mnuCont", {}, {ayuda + "3 0"}},
+        {"mnuAyuda", "mnuIndice", {}, {ayuda + "257 0"}},
+        {"mnuAyuda", "mnuAcerca", {}, {}},
+        {nullptr, "", Qt::Key_F1, {ayuda + "1 0"}},
+        {nullptr, "", Qt::Key_F2, {}},
+        {"mnuOpciones", "mnuPasar", {}, pase},
+        {nullptr, "", Qt::Key_F9, pase},
+        {"mnuOpciones", "mnuSonido", {}, {}},
+        {nullptr, "", Qt::Key_X, {PREGUNTA}},
+        {"mnuSalir", "", {}, {PREGUNTA}},
+    };
+    for (const auto& fila : tabla) {
+        const bool pregunta = fila.diario == Diario{PREGUNTA};
+        if (pregunta || fila.diario == pase) v.escritorio.Contestar(button::No);
+        if (fila.menu == nullptr) {
+            QTest::keyClick(&v.frm, fila.tecla, pregunta ? Qt::AltModifier : Qt::NoModifier);
+        } else if (*fila.entrada != '\0') {
+            v.raton.Elegir(fila.menu, fila.entrada);
+        } else {
+            v.Entrada(fila.menu)->trigger();
+        }
+        EXPECT_EQ(v.Leer(), fila.diario) << fila.entrada << fila.tecla;
+    }
+    EXPECT_EQ(acerca, 1);
+    EXPECT_EQ(v.partida.Sonido, True) << "inverted";
+    EXPECT_TRUE(v.Entrada("mnuSonido")->isChecked());
+    for (const Byte nivel : {AVANZADO, AVANZADO, PRINCIPIANTE, AVANZADO}) {
+        v.Entrada(nivel == AVANZADO ? "mnuLev2" : "mnuLev0")->trigger();
+        EXPECT_EQ(v.partida.Nivel, nivel);
+        EXPECT_EQ(v.Entrada("mnuLev0")->isChecked(), nivel == PRINCIPIANTE);
+        EXPECT_EQ(v.Entrada("mnuLev2")->isChecked(), nivel == AVANZADO);
+    }
     v.Poner("B 0x1 11x14 | dice 5 0");
     v.escritorio.Dados({3, 2});
-    v.Entrada("mnuLev2")->trigger();
-    EXPECT_EQ(computadora.turnos, 0);
     v.raton.Arrastrar(v.Centro({Arreglo::Blanca, 14}), v.Base(16));
-    EXPECT_EQ(computadora.turnos, 1);
-}
-
-TEST(Menus, sound_is_inverted_and_its_mark_follows) {
-    Ventana v;
-    v.Abrir();
-    for (const Boolean esperado : {False, True, False}) {
-        v.raton.Elegir("mnuOpciones", "mnuSonido");
-        EXPECT_EQ(v.partida.Sonido, esperado);
-        EXPECT_EQ(v.Entrada("mnuSonido")->isChecked(), esperado == True);
-    }
-}
-
-TEST(Menus, pass_by_its_key_and_by_the_menu) {
-    Ventana v;
-    v.Abrir();
-    QTest::keyClick(&v.frm, Qt::Key_F9);
-    EXPECT_EQ(v.Leer(), Diario{}) << "no game yet";
-    v.Poner("dice 6 5");
-    v.escritorio.Contestar();
-    v.escritorio.Contestar();
-    QTest::keyClick(&v.frm, Qt::Key_F9);
-    v.raton.Elegir("mnuOpciones", "mnuPasar");
-    const std::string caja = "caja 64 [Corvanda :] You have to play the  6";
-    EXPECT_EQ(v.Leer(), (Diario{BIP, caja, BIP, caja}));
-}
-
-TEST(Menus, exit_is_a_command_on_the_bar_by_click_and_by_access_key) {
-    Ventana v;
-    v.Abrir();
-    QMenuBar& barra = *v.frm.menuBar();
-    for (const bool tecla : {false, true}) {
-        v.escritorio.Contestar(button::No);
-        if (tecla) {
-            QTest::keyClick(&v.frm, Qt::Key_X, Qt::AltModifier);
-        } else {
-            const QPoint lugar = barra.actionGeometry(v.Entrada("mnuSalir")).center();
-            QTest::mouseClick(v.frm.windowHandle(), Qt::LeftButton, {}, barra.mapTo(&v.frm, lugar));
-        }
-        EXPECT_EQ(v.Leer(), Diario{PREGUNTA});
-        EXPECT_TRUE(v.frm.isVisible());
-    }
+    EXPECT_EQ(computadora.turnos, 1) << "a level hands Brown to the computer at its next turn";
 }
 
 }  // namespace

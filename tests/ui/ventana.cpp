@@ -1,13 +1,29 @@
 #include "tests/ui/ventana.h"
 
-#include <gtest/gtest.h>
-
-#include <QCoreApplication>
-#include <QMenu>
+#include <QAbstractButton>
+#include <QApplication>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QPointer>
 #include <QWindow>
 
 namespace corvanda::pruebas {
+
+namespace {
+
+constexpr const char* VISTA = "vista_por_el_vigilante";
+constexpr int PACIENCIA = 30000;  // milliseconds that a window may stay open
+
+/// A box as the journal writes it, empty for other windows.
+std::string Caja_De(const QWidget& ventana) {
+    const auto* caja = qobject_cast<const QMessageBox*>(&ventana);
+    if (caja == nullptr) return {};
+    constexpr int estilos[] = {0, 64, 48, 16, 36};  // by QMessageBox::Icon
+    return "caja " + std::to_string(estilos[caja->icon()]) + " [" +
+           caja->windowTitle().toStdString() + "] " + caja->text().toStdString();
+}
+
+}  // namespace
 
 QString Carpeta_De_Imagenes() {
     return QCoreApplication::applicationDirPath() + "/imagenes";
@@ -33,11 +49,9 @@ void Raton_De_Pruebas::Soltar(Lugar lugar, Qt::MouseButton boton) {
 }
 
 void Raton_De_Pruebas::Arrastrar(Lugar desde, Lugar hasta) {
-    constexpr int PASOS = 3;
     Pulsar(desde);
-    for (int i = 1; i <= PASOS; ++i) {
-        Ir({desde.x + (hasta.x - desde.x) * i / PASOS, desde.y + (hasta.y - desde.y) * i / PASOS});
-    }
+    Ir({(desde.x + hasta.x) / 2, (desde.y + hasta.y) / 2});
+    Ir(hasta);
     Soltar(hasta);
 }
 
@@ -47,10 +61,51 @@ void Raton_De_Pruebas::Elegir(const QString& menu, const QString& entrada) {
     ASSERT_NE(abierto, nullptr) << menu.toStdString();
     const QPoint en_barra = barra.actionGeometry(abierto->menuAction()).center();
     QTest::mouseClick(ventana.windowHandle(), Qt::LeftButton, {}, barra.mapTo(&ventana, en_barra));
-    auto* accion = abierto->findChild<QAction*>(entrada);
-    ASSERT_NE(accion, nullptr) << entrada.toStdString();
     ASSERT_TRUE(QTest::qWaitFor([&] { return abierto->isVisible(); }));
-    QTest::mouseClick(abierto, Qt::LeftButton, {}, abierto->actionGeometry(accion).center());
+    const QRect lugar = abierto->actionGeometry(abierto->findChild<QAction*>(entrada));
+    QTest::mouseClick(abierto, Qt::LeftButton, {}, lugar.center());
+}
+
+Vigilante::Vigilante() {
+    QObject::connect(&reloj, &QTimer::timeout, [this] { Mirar(); });
+    reloj.start(1);
+}
+
+// The hand works outside the timer's own handler, or a window that it opens would not be seen.
+void Vigilante::Mirar() {
+    QWidget* ventana = QApplication::activeModalWidget();
+    if (ventana == nullptr || !ventana->isVisible() || ventana->property(VISTA).toBool()) return;
+    ventana->setProperty(VISTA, true);
+    QTimer::singleShot(PACIENCIA, ventana, [ventana] {
+        ADD_FAILURE() << "stayed open: " << ventana->windowTitle().toStdString();
+        ventana->close();
+    });
+    if (const std::string caja = Caja_De(*ventana); !caja.empty()) cajas.push_back(caja);
+    Mano mano = siempre;
+    if (!manos.empty()) {
+        mano = std::move(manos.front());
+        manos.pop_front();
+    }
+    QTimer::singleShot(0, ventana, [ventana, mano] {
+        if (mano) return mano(*ventana);
+        ADD_FAILURE() << "nobody expected " << ventana->windowTitle().toStdString();
+        ventana->close();
+    });
+}
+
+void Pulsar(QWidget& ventana, const QString& boton) {
+    for (auto* uno : ventana.findChildren<QAbstractButton*>()) {
+        if (uno->text() == boton) return QTest::mouseClick(uno, Qt::LeftButton);
+    }
+    ADD_FAILURE() << "no button " << boton.toStdString();
+    ventana.close();
+}
+
+void Sortear(QWidget& dialogo) {
+    const QPointer<QWidget> abierto(&dialogo);
+    auto* boton = dialogo.findChild<QAbstractButton*>("Btn");
+    ASSERT_NE(boton, nullptr);
+    while (abierto && abierto->isVisible()) QTest::mouseClick(boton, Qt::LeftButton);
 }
 
 void Ventana::Pases::DoEvents() {
@@ -72,7 +127,6 @@ Ventana::Ventana(Cajas cajas, Oponente* computadora, const Escala& escala)
 }
 
 void Ventana::Abrir() {
-    abierta = true;
     frm.Form_Load();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&frm));
     // At large device pixel ratios the test's screen is smaller than the case.
@@ -82,7 +136,7 @@ void Ventana::Abrir() {
 }
 
 void Ventana::Poner(const std::string& posicion) {
-    if (!abierta) Abrir();
+    if (!frm.isVisible()) Abrir();
     partida.Sonido = False;
     pruebas::Poner(frm.Mesa(), partida, posicion);
     frm.Tablero().update();
@@ -102,20 +156,6 @@ Lugar Ventana::Centro(Control control) const {
     const Image& imagen = *Imagen_De(partida, control);
     return {static_cast<double>(imagen.Left + imagen.Width / 2),
             static_cast<double>(imagen.Top + imagen.Height / 2)};
-}
-
-Lugar Ventana::Base(Integer punto) const {
-    return Meta(partida, {Jugada::Clase::Mover, 0, punto});
-}
-
-QAction* Ventana::Entrada(const char* nombre) {
-    auto* entrada = frm.menuBar()->findChild<QAction*>(nombre);
-    if (entrada == nullptr) ADD_FAILURE() << "no entry " << nombre;
-    return entrada;
-}
-
-FichaFlotante& Ventana::Flotante() {
-    return *frm.findChild<FichaFlotante*>("FichaFlotante");
 }
 
 }  // namespace corvanda::pruebas

@@ -1,15 +1,18 @@
 // The real main window for tests, over the journaling desktop, with a mouse that arrives at it as a
-// person's does: through the toolkit's window, with grabs and with blocking by what is modal.
+// person's does: through the toolkit's window, with grabs and with blocking by what is modal. And
+// somebody who looks after the modal windows that open meanwhile.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QTest>
+#include <QTimer>
 
 #include "demostracion/jugador.h"
 #include "desktop/message_box.h"
 #include "tests/apoyo/diario.h"
 #include "tests/apoyo/escritorio.h"
 #include "tests/apoyo/posicion.h"
-#include "tests/ui/vigilante.h"
 #include "ui/frm_principal.h"
 
 namespace corvanda::pruebas {
@@ -37,6 +40,35 @@ class Raton_De_Pruebas {
     FrmPrincipal& ventana;
 };
 
+/// Hands boxes and dialogs to the test in the order in which it prepared for them. One that nobody
+/// prepared for fails the test and is closed, so that no test waits for ever.
+class Vigilante {
+  public:
+    using Mano = std::function<void(QWidget&)>;
+
+    Vigilante();
+
+    /// What is done with the next window; it may leave it open.
+    void Esperar(Mano mano) { manos.push_back(std::move(mano)); }
+    /// What is done with every further window.
+    void Siempre(Mano mano) { siempre = std::move(mano); }
+    bool Gastado() const { return manos.empty(); }
+
+    /// The boxes so far, as the journal writes them: "caja 64 [title] text".
+    std::vector<std::string> cajas;
+
+  private:
+    void Mirar();
+
+    std::deque<Mano> manos;
+    Mano siempre;
+    QTimer reloj;
+};
+
+/// Hands for the usual cases: a button by its text, and throws until a start-player dialog closes.
+void Pulsar(QWidget& ventana, const QString& boton);
+void Sortear(QWidget& dialogo);
+
 class Ventana {
   public:
     enum class Cajas { Diario, Reales };
@@ -52,9 +84,9 @@ class Ventana {
     Diario Leer();
     Lugar Centro(Control control) const;
     /// The point's image near its base.
-    Lugar Base(Integer punto) const;
-    QAction* Entrada(const char* nombre);
-    FichaFlotante& Flotante();
+    Lugar Base(Integer punto) const { return Meta(partida, {Jugada::Clase::Mover, 0, punto}); }
+    QAction* Entrada(const char* nombre) { return frm.menuBar()->findChild<QAction*>(nombre); }
+    QWidget& Flotante() { return *frm.findChild<QWidget*>("FichaFlotante"); }
 
     Escritorio escritorio;
     Partida partida = Diseno();
@@ -71,7 +103,6 @@ class Ventana {
         Escritorio& escritorio;
     };
     Pases pases{escritorio};
-    bool abierta = false;
 
   public:
     FrmPrincipal frm;
@@ -79,7 +110,6 @@ class Ventana {
     Vigilante vigilante;
 };
 
-/// What the quit question and an answered one leave in the journal.
 inline constexpr const char* PREGUNTA = "caja 36 [¿ Exit ?] ¿ Are you sure you want to quit ?";
 
 }  // namespace corvanda::pruebas

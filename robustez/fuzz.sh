@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Runs each fuzzing program for a while, from the kept seeds:
+#
+#     robustez/fuzz.sh [SECONDS] [NAMES...]
+#
+# Without SECONDS for twenty; NAMES are of juego, ajustes, medios, ayuda. What it finds on the way is
+# kept in build/fuzz/hallado/NAME and is where the next run begins. An input that breaks something is
+# left in build/fuzz/fallos, to be given to the program alone: build/fuzz/bin/fuzz_NAME INPUT.
+set -u
+cd "$(dirname "$0")/.." || exit 2
+. tools/construir.sh
+segundos=${1:-20}
+[ $# -gt 0 ] && shift
+[ $# -eq 0 ] && set -- juego ajustes medios ayuda
+bash tools/instalar.sh build fuzz || exit 1
+configurado fuzz "${@/#/fuzz_}" || configurar fuzz || exit 1
+compilar fuzz "${@/#/fuzz_}" || exit 1
+
+export QT_QPA_PLATFORM=offscreen
+export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
+mkdir -p build/fuzz/fallos build/log
+for nombre; do
+    hallado=build/fuzz/hallado/$nombre
+    registro=build/log/fuzz-$nombre.log
+    mkdir -p "$hallado"
+    if ! build/fuzz/bin/fuzz_"$nombre" -max_total_time="$segundos" -timeout=30 \
+        -print_final_stats=1 -artifact_prefix=build/fuzz/fallos/ \
+        "$hallado" robustez/semillas/"$nombre" >"$registro" 2>&1 </dev/null; then
+        tail -n 30 "$registro" >&2
+        echo "fuzz: $nombre found something: see $registro" >&2
+        exit 1
+    fi
+    awk -v nombre="$nombre" '/ cov: / {for (i = 1; i < NF; ++i) if ($i == "cov:") c = $(i + 1)}
+        /number_of_executed_units/ {n = $2}
+        END {printf "fuzz %-8s %10d executions, coverage %d points, nothing found\n", nombre, n, c}' "$registro"
+done

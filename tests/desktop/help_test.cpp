@@ -1,0 +1,177 @@
+// The help file and the window that shows it.
+#include <QCryptographicHash>
+#include <QPushButton>
+#include <QWindow>
+
+#include "desktop/help_viewer.h"
+#include "desktop/help_window.h"
+#include "tests/desktop/desk.h"
+
+namespace corvanda::pruebas {
+namespace {
+
+const QString built_help = CORVANDA_AYUDA;
+
+QByteArray Sealed(const QByteArray& bytes) {
+    return bytes + QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+}
+
+/// The built file, whole, but one of its entries is called something else.
+QByteArray Without(const char* name) {
+    QByteArray bytes = ReadBytes(built_help).chopped(64);
+    QByteArray wide;
+    for (const char* each = name; *each != '\0'; ++each) wide += QByteArray(1, '\0') + *each;
+    EXPECT_TRUE(bytes.contains(wide)) << name;
+    bytes[bytes.indexOf(wide) + 1] = '~';
+    return Sealed(bytes);
+}
+
+class HelpTest : public testing::Test, public MessageBoxes {
+  protected:
+    Integer MsgBox(const std::string& text, Integer style, const std::string& title) override {
+        EXPECT_EQ(style, style::Exclamation);
+        EXPECT_EQ(title, "Corvanda");
+        said.push_back(text);
+        return button::Ok;
+    }
+
+    static std::vector<HelpWindow*> Windows() {
+        std::vector<HelpWindow*> found;
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* help = qobject_cast<HelpWindow*>(window)) found.push_back(help);
+        return found;
+    }
+    void Ask(Integer command, Integer context = 0) {
+        viewer->WinHelp(of + "\\corvanda.HLP", command, context);
+        if (of == folder.path().toStdString()) return;
+        ASSERT_EQ(Windows().size(), 1U);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(Windows().front()));
+    }
+    void Refused(const QByteArray& bytes, const std::string& what) {
+        WriteBytes(folder.filePath("corvanda.HLP"), bytes);
+        said.clear();
+        Ask(help::Context, 1);
+        EXPECT_EQ(said, std::vector{"The help file " + of + "/corvanda.HLP is damaged."}) << what;
+        EXPECT_TRUE(Windows().empty()) << what;
+    }
+
+    static HelpWindow& Window() { return *Windows().front(); }
+    template <class Kind>
+    static Kind* Part(const char* name) {
+        return Window().findChild<Kind*>(name);
+    }
+    static HelpBrowser* Page() { return Part<HelpBrowser>("HelpPage"); }
+    static std::string Topic() { return Page()->source().toString().mid(6).toStdString(); }
+    static std::string Shown() {
+        QStringList shown;
+        for (const auto* item : Part<QListWidget>("HelpKeywords")->findItems("", Qt::MatchContains))
+            if (!item->isHidden()) shown += item->text();
+        return shown.join(';').toStdString();
+    }
+    /// Keys and clicks that take the way of a person's, which a modal window may bar.
+    static void Type(const char* text) {
+        for (; *text != '\0'; ++text) QTest::keyClick(Window().windowHandle(), *text);
+    }
+    static void Press(Qt::Key key) { QTest::keyClick(Window().windowHandle(), key); }
+
+    const QTemporaryDir folder;
+    std::string of = QFileInfo(built_help).path().toStdString();
+    std::vector<std::string> said;
+    std::optional<QtHelpViewer> viewer{std::in_place, *this, of, "Corvanda"};
+};
+
+TEST_F(HelpTest, a_file_that_is_not_as_it_should_be_is_named_in_one_box) {
+    of = folder.path().toStdString();
+    viewer.emplace(*this, of, "Corvanda");
+    Ask(help::Contents);
+    EXPECT_EQ(said, std::vector{"The help file " + of + "/corvanda.HLP cannot be opened."});
+    const QByteArray good = ReadBytes(built_help);
+    const std::pair<const char*, QByteArray> table[] = {
+        {"empty", {}},
+        {"a seal and nothing else", Sealed({})},
+        {"cut in half", good.left(good.size() / 2)},
+        {"the last byte missing", good.chopped(1)},
+        {"random bytes", Noise(good.size())},
+        {"random bytes with a seal", Sealed(Noise(good.size()))},
+        {"too large", QByteArray(17 << 20, 'x')},
+        {"no contents", Without("contents.txt")},
+        {"the topic of a context missing", Without("two.html")},
+    };
+    for (const auto& [what, bytes] : table) Refused(bytes, what);
+    for (unsigned seed = 1; seed <= 60; ++seed)
+        Refused(Damaged(good, seed, good.size()), std::to_string(seed));
+    WriteBytes(folder.filePath("corvanda.HLP"), good);
+    said.clear();
+    Ask(help::Contents);
+    EXPECT_TRUE(said.empty() && Windows().size() == 1) << "it opens as soon as it is good";
+}
+
+TEST_F(HelpTest, each_request_shows_its_page_in_the_same_window) {
+    const struct {
+        Integer command, context;
+        const char* topic;
+        int tab;
+    } table[] = {
+        {help::Context, 0, "welcome.html", 0},  {help::Context, 1, "computer.html", 0},
+        {help::Context, 2, "two.html", 0},      {help::Context, 77, "welcome.html", 0},
+        {help::Key, 0, "welcome.html", 1},      {help::Context, 2, "two.html", 1},
+        {help::Contents, 1, "welcome.html", 0}, {4711, 2, "welcome.html", 0},
+    };
+    for (const auto& row : table) {
+        Ask(row.command, row.context);
+        EXPECT_EQ(Topic(), row.topic) << row.command << ' ' << row.context;
+        EXPECT_EQ(Part<QTabWidget>("HelpTabs")->currentIndex(), row.tab) << row.command;
+        EXPECT_EQ(Part<QLineEdit>("HelpFilter")->hasFocus(), row.command == help::Key);
+        if (row.context == 1) Press(Qt::Key_Escape);
+        if (row.tab == 1) Window().showMinimized();
+    }
+    EXPECT_TRUE(Window().isVisible() && !Window().isMinimized());
+}
+
+TEST_F(HelpTest, the_filter_narrows_the_keywords_and_they_open_their_pages) {
+    Ask(help::Key);
+    Type("larger");
+    EXPECT_EQ(Shown(), "bearing off, larger die;larger die");
+    Type(" OFF");
+    EXPECT_EQ(Shown(), "bearing off, larger die");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Topic(), "bearing.html#larger");
+    Type("zzz");
+    for (const auto key : {Qt::Key_Return, Qt::Key_Down}) Press(key);
+    EXPECT_EQ(Topic(), "bearing.html#larger") << "nothing to open";
+}
+
+TEST_F(HelpTest, links_stay_inside_the_help) {
+    Ask(help::Context, 0);
+    for (const auto key : {Qt::Key_Tab, Qt::Key_Return}) Press(key);
+    EXPECT_EQ(Topic(), "aim.html") << "the first link of the welcome page, by key";
+    for (const char* link :
+         {"http://example.org/dice.html", "file:///etc/hostname", "help:/../x"}) {
+        emit Page()->anchorClicked(QUrl(link));
+        EXPECT_EQ(Topic(), "aim.html") << link;
+    }
+}
+
+TEST_F(HelpTest, help_and_a_modal_dialog_both_take_input) {
+    for (const bool open_before : {false, true}) {
+        if (open_before) Ask(help::Context, 1);
+        QDialog dialog;
+        QPushButton close_button("Close", &dialog);
+        QObject::connect(&close_button, &QPushButton::clicked, &dialog, &QDialog::accept);
+        QTimer::singleShot(5000, &dialog, &QDialog::reject);  // must fail the test, not hang it
+        QTimer::singleShot(0, &dialog, [&] {
+            Ask(help::Key);
+            Type("doubles");
+            Press(Qt::Key_Return);
+            EXPECT_EQ(Topic(), "doubles.html") << "open before: " << open_before;
+            QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, {5, 5});
+        });
+        EXPECT_EQ(dialog.exec(), QDialog::Accepted) << "open before: " << open_before;
+        EXPECT_TRUE(Window().isVisible()) << "the help stays when the dialog goes";
+        viewer.emplace(*this, of, "Corvanda");
+    }
+    EXPECT_TRUE(Windows().empty()) << "a window goes with its viewer";
+}
+
+}  // namespace
+}  // namespace corvanda::pruebas

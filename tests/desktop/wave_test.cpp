@@ -1,0 +1,210 @@
+// Wave files, and the player over the audio library's disk driver, which writes down what a person
+// would have heard.
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QThread>
+#include <algorithm>
+
+#include "desktop/wave_file.h"
+#include "desktop/wave_player.h"
+#include "tests/desktop/desk.h"
+
+namespace corvanda::pruebas {
+namespace {
+
+using Signal = std::vector<std::int16_t>;
+
+struct WaveFormat {
+    quint32 coding = 1;  ///< 1 is plain samples
+    quint32 channels = 2, rate = 44100, bits = 16;
+};
+
+QByteArray WaveBytes(const WaveFormat& format, const QByteArray& data) {
+    const quint32 frame = format.channels * format.bits / 8;
+    return Chunk("RIFF", "WAVE" +
+                             Chunk("fmt ", Number(format.coding, 2) + Number(format.channels, 2) +
+                                               Number(format.rate) + Number(format.rate * frame) +
+                                               Number(frame, 2) + Number(format.bits, 2)) +
+                             Chunk("data", data));
+}
+
+QByteArray WaveBytes(const WaveFormat& format, const Signal& signal) {
+    const auto size = static_cast<qsizetype>(signal.size() * sizeof signal[0]);
+    return WaveBytes(format, QByteArray(reinterpret_cast<const char*>(signal.data()), size));
+}
+
+/// Frames of two equal samples, none of them 0, so that silence around them can be told apart.
+Signal Ramp(int frames, int start) {
+    Signal signal;
+    for (int i = 0; i < 2 * frames; ++i)
+        signal.push_back(static_cast<std::int16_t>(start + i / 2 % 5000));
+    return signal;
+}
+
+Signal SignalOf(const void* bytes, std::size_t size) {
+    const auto* first = static_cast<const std::int16_t*>(bytes);
+    return {first, first + size / sizeof *first};
+}
+
+class WaveTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        qputenv("SDL_AUDIODRIVER", "disk");
+        qputenv("SDL_DISKAUDIOFILE", QFile::encodeName(heard));
+    }
+    void TearDown() override {
+        qputenv("SDL_AUDIODRIVER", before);
+        qunsetenv("SDL_DISKAUDIOFILE");
+    }
+
+    std::optional<Signal> Read(const QByteArray& bytes) const {
+        WriteBytes(folder.filePath("read.Wav"), bytes);
+        const auto samples = wave::ReadWaveFile(folder.filePath("read.Wav"));
+        if (!samples) return {};
+        return SignalOf(samples->data(), samples->size());
+    }
+    Signal Heard() const {
+        const QByteArray bytes = ReadBytes(heard);
+        return SignalOf(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    }
+    bool ComesToHear(const Signal& part) const {
+        return Comes([&] {
+            const Signal all = Heard();
+            return std::search(all.begin(), all.end(), part.begin(), part.end()) != all.end();
+        });
+    }
+    static bool Comes(const std::function<bool()>& condition) {
+        return QTest::qWaitFor(condition, 15000);
+    }
+    static int Threads() {
+        return static_cast<int>(QDir("/proc/self/task").entryList(QDir::AllDirs).size());
+    }
+    void Start() {
+        player = std::make_unique<SdlWaveOut>(folder.path().toStdString(), [this] {
+            ++beeps;
+            EXPECT_EQ(QThread::currentThread(), qApp->thread());
+        });
+    }
+    /// Plays a file by that name, which is written first when there is something to write.
+    void Play(const char* name, const Signal& signal = {}) {
+        if (!signal.empty())
+            WriteBytes(folder.filePath(QString("Sonidos/") + name), WaveBytes({}, signal));
+        player->sndPlaySound(folder.path().toStdString() + "\\Sonidos\\" + name);
+    }
+
+    const QTemporaryDir folder;
+    const QString heard = folder.filePath("heard.raw");
+    const QByteArray before = qgetenv("SDL_AUDIODRIVER");
+    int beeps = 0;
+    std::unique_ptr<SdlWaveOut> player;
+};
+
+TEST_F(WaveTest, a_file_is_heard_as_it_is_or_not_at_all) {
+    const Signal signal = {0, 1, -1, 100, -12345, 32767, -32768, 7};
+    EXPECT_EQ(Read(WaveBytes({}, signal)), signal);
+    EXPECT_EQ(Read(WaveBytes({}, Ramp(1000, 1)).left(44 + 4 * 600)), Ramp(600, 1)) << "cut off";
+    EXPECT_EQ(Read(WaveBytes({.channels = 1}, signal)).value_or(Signal{}).size(), 16U);
+    const QByteArray good = WaveBytes({}, Ramp(1000, 1));
+    const QByteArray second(44100, '\x21');
+    const struct {
+        const char* what;
+        QByteArray bytes;
+        double seconds;  // 0 for what cannot be played
+    } table[] = {
+        {"telephone", WaveBytes({1, 1, 8000, 8}, second.left(8000)), 1},
+        {"floating point", WaveBytes({3, 1, 44100, 32}, second), 0.25},
+        {"an empty file", {}, 0},
+        {"a text", "This is a text and not a sound at all, however long it goes on.", 0},
+        {"an unknown coding", WaveBytes({0x55, 2, 44100, 16}, second), 0},
+        {"a thousand channels", WaveBytes({1, 1000, 44100, 16}, second), 0},
+        {"more than 32 MiB", WaveBytes({}, QByteArray(32 << 20, 'x')), 0},
+        {"an hour", WaveBytes({1, 1, 8000, 8}, QByteArray(28'800'000, 'x')), 0},
+    };
+    for (const auto& row : table) {
+        const auto read = Read(row.bytes);
+        EXPECT_EQ(read.has_value(), row.seconds > 0) << row.what;
+        EXPECT_NEAR(static_cast<double>(read.value_or(Signal{}).size()) / 88200, row.seconds, 0.01);
+    }
+    for (unsigned seed = 0; seed < 300; ++seed) {
+        const WaveFormat packed{seed % 2 == 0 ? 2U : 17U, 1 + seed % 2, 44100, 4};
+        Read(Damaged(seed % 3 == 0 ? good : WaveBytes(packed, second.left(600)), seed, 60));
+    }
+}
+
+TEST_F(WaveTest, a_new_sound_takes_the_place_of_the_one_that_plays) {
+    Start();
+    EXPECT_EQ(player->waveOutGetNumDevs(), 1U);
+    Play("long.Wav", Ramp(44100 * 8, 10000));
+    ASSERT_TRUE(ComesToHear(Ramp(1000, 10000)));
+    const Signal shorter = Ramp(9000, 1);
+    Play("short.Wav", shorter);
+    ASSERT_TRUE(ComesToHear(shorter));
+    const Signal all = Heard();
+    const auto begin = std::search(all.begin(), all.end(), shorter.begin(), shorter.end());
+    EXPECT_GE(*(begin - 1), 10000) << "no gap between the two";
+    EXPECT_TRUE(std::all_of(begin + 18000, all.end(), [](auto each) { return each == 0; }));
+    for (int i = 0; i < 200; ++i) Play("long.Wav");
+    Play("short.Wav", Ramp(9000, 20000));
+    EXPECT_TRUE(ComesToHear(Ramp(9000, 20000))) << "the newest of many, as it is on the disk now";
+    EXPECT_EQ(beeps, 0);
+}
+
+TEST_F(WaveTest, the_device_is_given_back_when_it_was_quiet_and_opened_again) {
+    const int threads = Threads();
+    Start();
+    for (const int start : {1, 10000}) {
+        Play("click.Wav", Ramp(2000, start));
+        ASSERT_TRUE(ComesToHear(Ramp(2000, start)));
+        EXPECT_TRUE(Comes([&] { return Threads() == threads + 1; })) << "a worker that sleeps";
+    }
+    Play("long.Wav", Ramp(44100 * 30, 1));
+    EXPECT_TRUE(Comes([&] { return Threads() == threads + 2; }));
+    player.reset();
+    EXPECT_EQ(Threads(), threads) << "ends in the middle of a sound";
+}
+
+TEST_F(WaveTest, a_file_that_cannot_be_played_is_a_beep_and_no_device_is_silence) {
+    WriteBytes(folder.filePath("Sonidos/damaged.Wav"), "RIFFxxxxWAVE");
+    const std::pair<const char*, unsigned> drivers[] = {{"dummy", 1}, {"no such driver", 0}};
+    for (const auto& [driver, devices] : drivers) {
+        qputenv("SDL_AUDIODRIVER", driver);
+        beeps = 0;
+        Start();
+        EXPECT_EQ(player->waveOutGetNumDevs(), devices) << driver;
+        Play("click.Wav", Ramp(100, 1));
+        QTest::qWait(50);
+        int expected = 0;
+        for (const char* name : {"missing.Wav", "damaged.Wav", ""}) {
+            Play(name);
+            EXPECT_EQ(beeps, expected) << "the call itself does not beep";
+            EXPECT_TRUE(Comes([&] { return beeps == expected + 1; })) << driver << name;
+            ++expected;
+        }
+    }
+    for (int i = 0; i < 50; ++i) {
+        Start();
+        Play("missing.Wav");
+        beeps = 0;
+    }
+    player.reset();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(beeps, 0) << "no beep comes after the player is gone";
+}
+
+TEST_F(WaveTest, a_device_that_hangs_holds_nobody_up) {
+    // Nobody reads this pipe yet, so to open it for writing takes for ever.
+    ASSERT_EQ(::mkfifo(QFile::encodeName(heard).constData(), 0600), 0);
+    const int threads = Threads();
+    Start();
+    for (int i = 0; i < 3; ++i) Play("click.Wav", Ramp(100, 1));
+    EXPECT_TRUE(Comes([&] { return Threads() == threads + 1; }));
+    player.reset();
+    // The thread that was left behind must be gone before another test counts on the library.
+    const int reader = ::open(QFile::encodeName(heard).constData(), O_RDWR | O_NONBLOCK);
+    EXPECT_TRUE(Comes([&] { return Threads() == threads; }));
+    ::close(reader);
+}
+
+}  // namespace
+}  // namespace corvanda::pruebas
