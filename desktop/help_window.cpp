@@ -42,7 +42,10 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file, const QString& title)
     layout->addWidget(MakeBar());
     layout->addWidget(split, 1);
     connect(page, &QTextBrowser::sourceChanged, this, &HelpWindow::MarkInTree);
-    resize(usual_size.boundedTo(screen()->availableSize() * 0.9));
+    const QRect usable = screen()->availableGeometry();
+    resize(usual_size.boundedTo(usable.size() * 0.9));
+    // By its frame, so that the title does not end above the screen.
+    move(usable.center().x() - width() / 2, usable.top() + (usable.height() - height()) / 3);
 }
 
 QToolBar* HelpWindow::MakeBar() {

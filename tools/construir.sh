@@ -24,6 +24,7 @@ configurar() {  # configurar PRESET [CMAKE ARGUMENTS]
 
 compilar() {  # compilar PRESET [TARGETS]
     local preset=$1 registro=build/log/compilar-$1.log
+    mkdir -p build/log
     shift
     cmake --build --preset "$preset" ${1+--target "$@"} >"$registro" 2>&1 </dev/null && return
     grep -m 3 -E ': (fatal )?error:|undefined reference' "$registro" >&2

@@ -3,13 +3,16 @@
 
 #include <sys/resource.h>
 
-#include <QLockFile>
 #include <csignal>
+#include <memory>
 
+#include "desktop/folder_lock.h"
 #include "tests/desktop/desk.h"
 
 namespace corvanda::pruebas {
 namespace {
+
+using namespace std::chrono_literals;
 
 const std::string app = "/opt/juegos\\Corvanda.Ini";
 
@@ -114,16 +117,19 @@ TEST_F(SettingsFileTest, a_full_disk_is_told_and_leaves_the_old_file) {
     std::signal(SIGXFSZ, handler);
 }
 
-TEST_F(SettingsFileTest, another_programs_lock_counts_while_that_lives) {
+TEST_F(SettingsFileTest, another_program_counts_while_it_lives_and_its_remains_are_swept_up) {
     ExpectToStore("no lock");
-    QLockFile other(file + ".lock");
-    ASSERT_TRUE(other.lock());
+    auto other = std::make_unique<FolderLock>(folder.filePath("corvanda"), 0ms);
+    ASSERT_TRUE(other->Held());
     EXPECT_EQ(Store("-1"), Failure("another program keeps the file locked"));
     EXPECT_EQ(Stored(), "0");
-    other.unlock();
-    const QByteArray dead = "2147483646\nx\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n\n";
-    WriteBytes(file + ".lock", dead);
-    ExpectToStore("the lock of a program that died");
+    // What programs that were killed in the middle have left, and what only looks like it.
+    for (const char* end : {".aBcDeF", ".lock", ".mine", ".mine42"}) WriteBytes(file + end, "");
+    other.reset();
+    ExpectToStore("the other let go");
+    EXPECT_EQ(QDir(folder.filePath("corvanda")).entryList(QDir::Files),
+              (QStringList{"settings.json", "settings.json.lock", "settings.json.mine",
+                           "settings.json.mine42"}));
 }
 
 }  // namespace
