@@ -7,8 +7,9 @@
 // Message boxes, dialogs and passes of the event loop may run any other handler; vigencia.h says
 // who may go on afterwards.
 //
-// Bad input of the handlers (a chip, point or tray that does not exist, a drop of a chip that is
-// not on top of its stack or not of the side to move) is quietly refused and changes nothing.
+// Bad input of the handlers (a chip, point or tray that does not exist, a tray that is hidden, a
+// drop of a chip that is not on top of its stack or not of the side to move) is quietly refused and
+// changes nothing.
 #pragma once
 
 #include <optional>

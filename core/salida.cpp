@@ -23,7 +23,8 @@ Integer Pila_De_Bandeja(Integer color) {
 
 void Juego::Adios_DragDrop(Integer Index, Control Source) {
     const Comprobada accion(*this);
-    if (!Puede_Soltar(Source)) return;
+    const Image* bandeja = Imagen_De(partida, {Arreglo::Adios, Index});
+    if (bandeja == nullptr || !bandeja->Visible || !Puede_Soltar(Source)) return;
     const bool propia = Index == Bandeja_De(partida.Turno);
     const auto fuera = static_cast<Integer>(Index == 1 ? PUNTOS : -1);
     const auto distancia = static_cast<Integer>(std::abs(partida.Origen - fuera));

@@ -282,6 +282,10 @@ TEST(Arrastre, Only_The_Chip_That_Was_Taken_Can_Be_Dropped) {
         }
         mesa.Soltar(tomada, {Arreglo::Blanca, 15});
         mesa.Soltar(tomada, {Arreglo::Cafe, -1});
+        // Trays that are hidden, and none at all.
+        for (Integer bandeja = -1; bandeja < 3; ++bandeja) {
+            mesa.Soltar(tomada, {Arreglo::Adios, bandeja});
+        }
         EXPECT_TRUE(mesa.partida == antes) << Texto(mesa.partida);
         EXPECT_EQ(mesa.escritorio.Leer(), Diario{});
     }
