@@ -24,16 +24,12 @@ void Juego::Cargar_Controles() {
 }
 
 void Juego::Vestir_Tablero() {
-    const auto copiar = [this](Integer desde, Integer hasta, Integer muestra) {
-        for (Integer i = desde; i <= hasta; i = static_cast<Integer>(i + 2)) {
-            Dar_Estampa({Arreglo::Triangle, i}, Imagen({Arreglo::Triangle, muestra}).Shown);
-        }
-    };
     Dar_Estampa({Arreglo::Tablero, 1}, partida.Tablero[0].Shown);
-    copiar(15, 23, 13);
-    copiar(14, 22, 12);
-    copiar(1, 11, 1);
-    copiar(2, 10, 0);
+    // The first two points of each row have the pictures of all the others.
+    for (Integer i = 0; i < PUNTOS; ++i) {
+        const auto muestra = static_cast<Integer>(i / 12 * 12 + i % 2);
+        Dar_Estampa({Arreglo::Triangle, i}, Imagen({Arreglo::Triangle, muestra}).Shown);
+    }
 
     const Image& ultimo = partida.Triangle[23];
     const Single height = ultimo.Top + ultimo.Height - partida.Tablero[0].Top / 2;

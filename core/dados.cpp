@@ -26,7 +26,8 @@ void Juego::Tirar_Dados() {
     const Comprobada accion(*this);
     {
         const Dentro dentro(profundidad);
-        if (Rodar()) Jugar_Computadora();
+        Rodar();
+        Jugar_Computadora();
     }
     Atender_Peticiones();
 }
@@ -55,28 +56,27 @@ void Juego::Mostrar_Dado(Integer cual, Integer valor) {
     Al_Frente(dado);
 }
 
-// The roll. Returns whether it came to its end; a new game or the program's end interrupts it.
-bool Juego::Rodar() {
+// The roll. A new game or the program's end interrupts it, and then it is nobody's turn to play.
+void Juego::Rodar() {
     const auto testigo = vigencia.Empezar_Otra();
     if (partida.Jugando != False) sin_entrada = true;
     partida.Turno = static_cast<Integer>(-partida.Turno);
-    if (!Pasar_Eventos(testigo)) return false;
+    if (!Pasar_Eventos(testigo)) return;
 
     partida.Dado1 = Tirar_Dado();
     Mostrar_Dado(0, partida.Dado1);
-    if (!Pasar_Eventos(testigo)) return false;
+    if (!Pasar_Eventos(testigo)) return;
 
     partida.Dado2 = Tirar_Dado();
     partida.Dobles = partida.Dado2 == partida.Dado1 ? 2 : 0;
-    if (!Pasar_Eventos(testigo)) return false;
+    if (!Pasar_Eventos(testigo)) return;
 
     Mostrar_Dado(1, partida.Dado2);
-    if (!Pasar_Eventos(testigo)) return false;
+    if (!Pasar_Eventos(testigo)) return;
 
     partida.Jugando = True;
     sin_entrada = false;
     if (partida.Sonido != False) Sonar("click1.Wav");
-    return true;
 }
 
 bool Juego::Le_Toca_A_La_Computadora() const {
@@ -89,7 +89,7 @@ bool Juego::Le_Toca_A_La_Computadora() const {
 void Juego::Jugar_Computadora() {
     if (computadora_juega || !Le_Toca_A_La_Computadora()) return;
     const Mientras juega(computadora_juega);
-    Vigencia::Testigo testigo = 0;
+    Vigencia::Testigo testigo{};
     do {
         testigo = vigencia.Tomar();
         computadora->Tirar_Computer(*this);

@@ -137,7 +137,7 @@ class Juego {
     void Atender_Peticiones();
     void Abrir(const Peticion& peticion);
 
-    bool Rodar();
+    void Rodar();
     bool Pasar_Eventos(Vigencia::Testigo testigo);
     Integer Tirar_Dado();
     void Mostrar_Dado(Integer cual, Integer valor);

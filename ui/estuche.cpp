@@ -11,6 +11,9 @@
 #include <utility>
 #include <vector>
 
+#include "ui/estuche_accesible.h"
+#include "ui/lugares.h"
+
 namespace corvanda {
 
 namespace {
@@ -39,9 +42,15 @@ bool Es_Ficha_O_Dado(Picture estampa) {
 
 Estuche::Estuche(const Partida& partida, const Escala& escala, Estampas& estampas, QWidget* fondo)
     : QWidget(fondo), partida(partida), escala(escala), estampas(estampas), flotante(fondo) {
+    // Before anything is told of this widget, or it would be described as any other.
+    EstucheAccesible::Instalar();
     setObjectName("Estuche");
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName("Board");
+    setAccessibleDescription(
+        "The arrow keys choose a place, Space picks up a chip or drops it, Escape puts it back.");
     setFixedSize(escala.Tamano(ANCHO, ALTO));
     const int lado = qRound(20 * escala.K());
     const QPixmap dibujo = estampas.Suelta("mano", lado, devicePixelRatioF());
@@ -80,6 +89,15 @@ QRectF Estuche::Lugar(const Image& imagen) const {
     const auto height = static_cast<double>(imagen.Height);
     if (Es_Ficha_O_Dado(imagen.Shown)) return {esquina, QSizeF(rejilla(width), rejilla(height))};
     return {esquina, QPointF(rejilla(left + width), rejilla(top + height))};
+}
+
+QRect Estuche::Area(Integer lugar) const {
+    const QRectF cuadro = lugares::Cuadro(partida, lugar);
+    return escala.Lugar(cuadro.left(), cuadro.top(), cuadro.width(), cuadro.height());
+}
+
+int Estuche::Grueso() const {
+    return std::max(2, qRound(escala.Pixeles(30)));
 }
 
 QSize Estuche::Pixeles_De(const Image& imagen) const {
@@ -129,6 +147,7 @@ void Estuche::paintEvent(QPaintEvent* evento) {
     });
     for (const Capa& capa : capas) Pintar(pintor, *capa.imagen, capa.control);
     for (Integer lugar = 0; lugar <= BARRA_BLANCA; ++lugar) Pintar_Cuenta(pintor, lugar);
+    teclado.Pintar(pintor);
 }
 
 void Estuche::Pintar(QPainter& pintor, const Image& imagen, Control control) const {
@@ -186,6 +205,7 @@ void Estuche::Refrescar(Control control, const Image& antes) {
     update(Lugar(antes).toAlignedRect());
     update(Lugar(ahora).toAlignedRect());
     renovacion.start(0);
+    emit cambiada(control);
     const bool movida = antes.Left != ahora.Left || antes.Top != ahora.Top;
     if (!movida || !Recibe_Presiones(control.Nombre)) return;
     Refrescar_Pila_De(antes);
@@ -222,7 +242,9 @@ void Estuche::hideEvent(QHideEvent* evento) {
 }
 
 void Estuche::mousePressEvent(QMouseEvent* evento) {
+    if (teclado.A_La_Vista()) Cancelar_Arrastre();
     if (arrastre) return;
+    teclado.Ocultar();
     pulsado = evento->position();
     pulsada = Bajo(pulsado);
     if (Recibe_Presiones(pulsada.Nombre)) emit presionada(pulsada, Boton_De(evento->button()));
@@ -237,30 +259,40 @@ void Estuche::Iniciar_Arrastre(Control ficha) {
     arrastre = Arrastre{ficha, agarre};
     flotante.Aparecer(Estampa_De(imagen), pos() + pulsado - agarre);
     Ocultar(ficha, ATENUADA);
+    emit en_la_mano(ficha);
 }
 
+// What the keyboard holds is not the mouse's to move, to drop or to put back.
 void Estuche::mouseMoveEvent(QMouseEvent* evento) {
-    if (!arrastre) {
+    if (!arrastre || teclado.A_La_Vista()) {
         Actualizar_Puntero(evento->position());
     } else if (evento->buttons().testFlag(Qt::LeftButton)) {
-        flotante.Llevar(pos() + evento->position() - arrastre->agarre);
+        Llevar(evento->position());
     } else {
         Cancelar_Arrastre();
     }
 }
 
 void Estuche::mouseReleaseEvent(QMouseEvent* evento) {
-    if (arrastre && evento->button() == Qt::LeftButton) Soltar(evento->position());
+    const bool suelta = arrastre && !teclado.A_La_Vista();
+    if (suelta && evento->button() == Qt::LeftButton) Soltar(evento->position());
     Actualizar_Puntero(evento->position());
+}
+
+void Estuche::Llevar(QPointF a) {
+    flotante.Llevar(pos() + a - arrastre->agarre);
+}
+
+void Estuche::Soltar(QPointF lugar) {
+    Dejar(rect().contains(lugar.toPoint()) ? Bajo(lugar) : Control{});
 }
 
 // What the drop means is the game's to say. It may take the other side's whole turn to return, so
 // the board watches for the chip to move or for a box to open, whichever comes first.
-void Estuche::Soltar(QPointF lugar) {
+void Estuche::Dejar(Control destino) {
     const Control ficha = arrastre->ficha;
     arrastre.reset();
     soltando = ficha;
-    const Control destino = rect().contains(lugar.toPoint()) ? Bajo(lugar) : Control{};
     if (destino.Nombre != Arreglo::Ninguno) emit soltada(destino, ficha);
     if (soltando == ficha) Devolver();
 }
@@ -276,11 +308,38 @@ void Estuche::Devolver() {
     const Control ficha = std::exchange(soltando, Control{});
     const Image* imagen = Imagen_De(partida, ficha);
     if (imagen == nullptr) return;
+    emit en_la_mano({});
     const int milisegundos = Sin_Movimiento() ? 0 : REGRESO;
     flotante.Deslizar(pos() + Lugar(*imagen).topLeft(), milisegundos, [this, ficha] {
         flotante.hide();
         if (oculta == ficha) Mostrar_Oculta();
     });
+}
+
+// The keyboard
+
+// Tab is a key of the board; there is nothing else in the window that it could go to.
+bool Estuche::focusNextPrevChild(bool /*adelante*/) {
+    return false;
+}
+
+void Estuche::keyPressEvent(QKeyEvent* evento) {
+    if (!teclado.Tecla(*evento)) QWidget::keyPressEvent(evento);
+}
+
+void Estuche::focusOutEvent(QFocusEvent* evento) {
+    if (teclado.A_La_Vista()) Cancelar_Arrastre();
+    QWidget::focusOutEvent(evento);
+}
+
+bool Estuche::Se_Puede_Tomar(Integer lugar) const {
+    return preguntas.se_puede_tomar(lugares::Tope(partida, lugar));
+}
+
+void Estuche::Tomar(Control ficha) {
+    pulsada = ficha;
+    pulsado = Lugar(*Imagen_De(partida, ficha)).center();
+    emit presionada(ficha, Boton_De(Qt::LeftButton));
 }
 
 // A chip that moved by itself glides from its old place; its new place stays free until it comes.

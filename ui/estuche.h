@@ -1,5 +1,6 @@
 // The board case on the screen. It draws the images as the state says, reports presses and drops of
-// chips, and shows a chip that is dragged or glides. It holds no rule and no copy of the state.
+// chips, by mouse or keyboard, and shows a chip that is dragged or glides. It holds no rule and no
+// copy of the state.
 #pragma once
 
 #include <QTimer>
@@ -11,6 +12,7 @@
 #include "ui/escala.h"
 #include "ui/estampas.h"
 #include "ui/ficha_flotante.h"
+#include "ui/teclado.h"
 
 namespace corvanda {
 
@@ -35,7 +37,24 @@ class Estuche final : public QWidget, public Pantalla {
 
     void Preguntar(Preguntas nuevas) { preguntas = std::move(nuevas); }
 
+    const Partida& Estado() const { return partida; }
     bool Arrastrando() const { return arrastre.has_value(); }
+    /// The chip that is being dragged, Arreglo::Ninguno for none.
+    Control En_La_Mano() const { return arrastre ? arrastre->ficha : Control{}; }
+    /// Whether the top chip of a place (see lugares.h) could be picked up now.
+    bool Se_Puede_Tomar(Integer lugar) const;
+
+    /// Where the keyboard is, and what screen readers ask to be done.
+    Teclado& Teclas() { return teclado; }
+
+    // What the keyboard does as a mouse would.
+
+    /// A press of the left button on a chip, held by its centre.
+    void Tomar(Control ficha);
+    /// The dragged chip is dropped; where nothing takes it, it goes back.
+    void Dejar(Control destino);
+    /// The dragged chip is brought to a place in this widget.
+    void Llevar(QPointF a);
 
     /// The window is blocked by a box or loses the mouse: a drag ends without effect, and a chip
     /// that was dropped and has not moved goes back.
@@ -43,6 +62,10 @@ class Estuche final : public QWidget, public Pantalla {
 
     /// Where an image is drawn, logical pixels in this widget.
     QRectF Lugar(const Image& imagen) const;
+    /// Where a place of the board is, logical pixels in this widget.
+    QRect Area(Integer lugar) const;
+    /// How thick each line of the keyboard's frame is, logical pixels.
+    int Grueso() const;
 
     void Refrescar(Control control, const Image& antes) override;
     void Iniciar_Arrastre(Control ficha) override;
@@ -53,8 +76,17 @@ class Estuche final : public QWidget, public Pantalla {
     void presionada(Control ficha, Integer boton);
     /// A dragged chip was dropped on an enabled image.
     void soltada(Control destino, Control fuente);
+    /// An image has changed.
+    void cambiada(Control control);
+    /// The keyboard chose a place.
+    void elegido(Integer lugar);
+    /// A chip was picked up or, with Arreglo::Ninguno, put back.
+    void en_la_mano(Control ficha);
 
   protected:
+    bool focusNextPrevChild(bool adelante) override;
+    void focusOutEvent(QFocusEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
     void hideEvent(QHideEvent* evento) override;
     void paintEvent(QPaintEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
@@ -88,6 +120,7 @@ class Estuche final : public QWidget, public Pantalla {
     Estampas& estampas;
     Preguntas preguntas;
     FichaFlotante flotante;
+    Teclado teclado{*this};
     QCursor mano;
 
     QTimer renovacion;  // of the pointer, once the handler that changed something has ended

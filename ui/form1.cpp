@@ -1,6 +1,7 @@
 #include "ui/form1.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QThread>
 #include <algorithm>
 
@@ -17,6 +18,7 @@ constexpr int PASO_CHICO = 1;
 constexpr int PASO_GRANDE = 20;
 constexpr int ESPERA = 500;   // milliseconds before the chip slides
 constexpr double LADO = 480;  // twips of the chip's picture
+constexpr int GRUESO = 3;     // logical pixels of the line below the bar
 
 const QColor AZUL_OSCURO(0, 0, 0x80);
 
@@ -61,6 +63,7 @@ void Form1::Poner_Textos() {
     poner("Label3", "200=Slow", {2520, 1440, 1095, 255}, Qt::AlignLeft);
     Image3 = dialogos::Texto(*this, "Image3", {}, {3840, 0, LADO, LADO}, escala, letra);
     Image3->setPixmap(quieta);
+    Image3->setAccessibleName("Picture of a brown chip");
 }
 
 void Form1::Poner_Controles() {
@@ -81,6 +84,7 @@ void Form1::Poner_Controles() {
     Scroll->setFocusPolicy(Qt::StrongFocus);
     Scroll->setGeometry(escala.Lugar(1200, 1440, 1215, 255));
     Scroll->setAccessibleName("Machine speed, 1 fast to 200 slow");
+    Scroll->installEventFilter(this);
     Scroll->setFocus();
 
     BtnAceptar = dialogos::Boton(*this, "BtnAceptar", "&Ok", {3480, 840, 1215, 395}, escala);
@@ -110,6 +114,21 @@ void Form1::Timer1_Timer() {
 void Form1::BtnAceptar_Click() {
     modulo.Velocidad = static_cast<Integer>(Scroll->value());
     accept();
+}
+
+// Many styles draw a bar with the focus like one without, so a line is drawn below it here. There
+// is no room for one at its sides.
+bool Form1::eventFilter(QObject* objeto, QEvent* evento) {
+    const auto tipo = evento->type();
+    if (tipo == QEvent::FocusIn || tipo == QEvent::FocusOut) update();
+    return QDialog::eventFilter(objeto, evento);
+}
+
+void Form1::paintEvent(QPaintEvent* /*evento*/) {
+    if (!Scroll->hasFocus()) return;
+    const QRect barra = Scroll->geometry();
+    const QRect linea(barra.left(), barra.bottom() + 2, barra.width(), GRUESO);
+    QPainter(this).fillRect(linea, palette().color(QPalette::WindowText));
 }
 
 // Esc is the Cancel button, and so does nothing while that cannot be used.

@@ -24,7 +24,9 @@ class Form1 final : public QDialog {
     Form1(QWidget* ventana, Módulo1& modulo, const Escala& escala, Estampas& estampas);
 
   protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
+    void paintEvent(QPaintEvent* evento) override;
 
   private:
     void Poner_Textos();

@@ -119,6 +119,8 @@ void FrmAbout::Poner_Imagenes(const QString& imagenes) {
     Picture1->setObjectName("Picture1");
     Image2->setObjectName("Image2");
     Image1->setAccessibleName("Corvanda");
+    Picture1->setAccessibleName("Film");
+    Image2->setAccessibleName("Picture of a board");
 }
 
 // Of each pair the copy that is made last lies over the other.

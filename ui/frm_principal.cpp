@@ -50,6 +50,8 @@ FrmPrincipal::FrmPrincipal(Partida& partida, const Servicios& servicios, const E
       estampas(estampas),
       fondo(Hacer_Fondo(this)),
       estuche(new Estuche(partida, escala, estampas, fondo)),
+      voz(new Voz(fondo)),
+      locutor(*estuche, *voz),
       menus(*menuBar()),
       ajustes(servicios.Almacen, servicios.Programa),
       juego(partida, Puertos_De(servicios, *estuche), computadora) {
@@ -57,6 +59,7 @@ FrmPrincipal::FrmPrincipal(Partida& partida, const Servicios& servicios, const E
     setWindowTitle("Corvanda");
     setCentralWidget(fondo);
     fondo->installEventFilter(this);
+    estuche->setFocus();
     Conectar_Menus();
     Conectar_Tablero();
 }

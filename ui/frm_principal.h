@@ -13,7 +13,9 @@
 #include "ui/escala.h"
 #include "ui/estampas.h"
 #include "ui/estuche.h"
+#include "ui/locutor.h"
 #include "ui/menus.h"
+#include "ui/voz.h"
 
 namespace corvanda {
 
@@ -67,6 +69,7 @@ class FrmPrincipal final : public QMainWindow, private Volado {
     void Poner_Acerca(std::function<void()> mostrar) { acerca = std::move(mostrar); }
 
     Estuche& Tablero() { return *estuche; }
+    Locutor& Relator() { return locutor; }
     Juego& Mesa() { return juego; }
 
   signals:
@@ -96,6 +99,8 @@ class FrmPrincipal final : public QMainWindow, private Volado {
     Estampas& estampas;
     QWidget* fondo;
     Estuche* estuche;
+    Voz* voz;
+    Locutor locutor;
     Menus menus;
     Ajustes ajustes;
     Juego juego;

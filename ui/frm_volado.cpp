@@ -41,6 +41,12 @@ FrmVolado::FrmVolado(QWidget* ventana, Módulo1& modulo, RandomNumbers& azar, co
     Label1 = Texto(*this, "Label1", {}, {360, 1020, 2415, 735}, escala, escala.Letra(9.75, true));
     Btn = Boton(*this, "Btn", "&White Chips", {840, 1800, 1455, 315}, escala);
 
+    voz = new Voz(this);
+
+    for (QLabel* imagen : {Image1, Image2}) imagen->setAccessibleName("Die: not thrown");
+    Image1->setAccessibleDescription("White's die");
+    Image2->setAccessibleDescription("Brown's die");
+    Label1->setAccessibleDescription("Who starts");
     for (QLabel* nombre : {blanca, cafe}) nombre->setAlignment(Qt::AlignCenter);
     Colorear(*blanca, BLANCO, PLACA_OSCURA);
     Colorear(*cafe, ROJO, PLACA_CLARA);
@@ -57,7 +63,7 @@ void FrmVolado::Form_Load() {
 
 void FrmVolado::Btn_Click() {
     if (Btn->text() == "&White Chips") {
-        Tiro_Blanca = Tirar(Image1);
+        Tiro_Blanca = Tirar(Image1, "White");
         Btn->setText("&Brown Chips");
         if (modulo.Nivel == DOS_PERSONAS) return;
         // The computer throws by itself. No event is handled while its die is waited for.
@@ -71,17 +77,18 @@ void FrmVolado::Btn_Click() {
     }
 }
 
-Byte FrmVolado::Tirar(QLabel* imagen) {
+Byte FrmVolado::Tirar(QLabel* imagen, const char* bando) {
     const Byte tiro = CByte(azar.Rnd() * 5);
     const auto cara = static_cast<Picture>(static_cast<int>(Picture::Dado1) + tiro);
     const qreal ratio = devicePixelRatioF();
     imagen->setPixmap(estampas.De(cara, imagen->size() * ratio, ratio));
     imagen->setAccessibleName(QString("Die: %1").arg(tiro + 1));
+    voz->Decir(QString("%1 throws %2.").arg(bando).arg(tiro + 1));
     return tiro;
 }
 
 void FrmVolado::Tirar_Cafe() {
-    Tiro_Cafe = Tirar(Image2);
+    Tiro_Cafe = Tirar(Image2, "Brown");
     Btn->setText("&Close");
     Decidir();
 }
@@ -90,12 +97,14 @@ void FrmVolado::Tirar_Cafe() {
 void FrmVolado::Decidir() {
     if (Tiro_Cafe == Tiro_Blanca) {
         Btn->setText("&White Chips");
+        voz->Decir("Equal dice. Throw again.");
         return;
     }
     const bool empieza_cafe = Tiro_Cafe > Tiro_Blanca;
     modulo.Turno = empieza_cafe ? BLANCA : CAFE;
     Label1->setText(QString("The player with ") + (empieza_cafe ? "Brown Chips" : "White Chips") +
                     " starts");
+    voz->Decir(Label1->text());
 }
 
 void FrmVolado::keyPressEvent(QKeyEvent* evento) {

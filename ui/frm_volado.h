@@ -11,6 +11,7 @@
 #include "runtime/ports.h"
 #include "ui/escala.h"
 #include "ui/estampas.h"
+#include "ui/voz.h"
 
 namespace corvanda {
 
@@ -30,7 +31,7 @@ class FrmVolado final : public QDialog {
 
   private:
     void Form_Load();
-    Byte Tirar(QLabel* imagen);
+    Byte Tirar(QLabel* imagen, const char* bando);
     void Tirar_Cafe();
     void Decidir();
 
@@ -44,6 +45,7 @@ class FrmVolado final : public QDialog {
     QLabel* Image2 = nullptr;
     QLabel* Label1 = nullptr;
     QPushButton* Btn = nullptr;
+    Voz* voz = nullptr;
     Byte Tiro_Blanca = 0;  // 0..5, the face less one
     Byte Tiro_Cafe = 0;
 };

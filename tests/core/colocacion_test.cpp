@@ -19,22 +19,30 @@ std::vector<Single> Alturas(const Partida& partida, Integer punto) {
     return alturas;
 }
 
-// One number over every image of the board, with the chips as a game begins; it changes only when
-// the layout or the starting position does.
-TEST(Colocacion, The_Board_As_A_Game_Begins) {
-    const Mesa mesa;
+// One number over every image of the board.
+std::uint64_t Firma(const Partida& partida) {
     std::uint64_t firma = 0;
     for (const Arreglo nombre : {Arreglo::Tablero, Arreglo::Triangle, Arreglo::Blanca,
                                  Arreglo::Cafe, Arreglo::Adios, Arreglo::Dado}) {
-        for (Control c{nombre, 0}; Imagen_De(mesa.partida, c) != nullptr; ++c.Index) {
-            const Image& i = *Imagen_De(mesa.partida, c);
+        for (Control c{nombre, 0}; Imagen_De(partida, c) != nullptr; ++c.Index) {
+            const Image& i = *Imagen_De(partida, c);
             for (const Single valor : {i.Left, i.Top, i.Width, i.Height, Single(i.Shown),
                                        Single(i.ZOrder), Single(i.Visible), Single(i.Enabled)}) {
                 firma = firma * 1099511628211U + static_cast<std::uint64_t>(valor);
             }
         }
     }
-    EXPECT_EQ(firma, 16028574968039452301U);
+    for (const Image& i : partida.Dados) {
+        firma = firma * 1099511628211U + static_cast<std::uint64_t>(i.Width + 2 * i.Left);
+    }
+    return firma;
+}
+
+// The numbers change only when the layout or the starting position does.
+TEST(Colocacion, The_Board_As_Designed_And_As_A_Game_Begins) {
+    const Mesa mesa;
+    EXPECT_EQ(Firma(Diseno()), 3845374076052062094U);
+    EXPECT_EQ(Firma(mesa.partida), 18040620791810161845U);
     EXPECT_EQ(mesa.partida.Jugando, False);
     EXPECT_EQ(mesa.partida.Tablero[1].Width, 3960);
     EXPECT_EQ(mesa.partida.Tablero[1].Height, 5820);

@@ -121,6 +121,7 @@ TEST(Pase, Refused_While_A_Chip_On_The_Bar_Can_Enter) {
 // Brown's lowest chip then ends the search. The bar of the other side does not count.
 TEST(Pase, Refused_While_A_Chip_On_A_Point_Can_Move) {
     const Peticion_De_Pase casos[] = {{"B 10x2 20x13 | C 5x15 | dice 5 2", 5},
+                                      {"B 20x15 | C 5x15 | dice 6 1", 1},
                                       {"B 10x9 | C 15x2 | dice 5 2", 2},
                                       {"B 10x4 11x1 | C 15x2 12x2 | dice 5 2", 5},
                                       {"B 10x4 11x1 | C 15x2 | dice 0 5", 5},

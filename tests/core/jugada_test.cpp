@@ -282,6 +282,10 @@ TEST(Arrastre, Only_The_Chip_That_Was_Taken_Can_Be_Dropped) {
         }
         mesa.Soltar(tomada, {Arreglo::Blanca, 15});
         mesa.Soltar(tomada, {Arreglo::Cafe, -1});
+        // An empty bar holds no chip, whatever its number.
+        mesa.juego.Poner_Origen(blanca ? ORIGEN_BARRA_BLANCA : ORIGEN_BARRA_CAFE);
+        mesa.Soltar({tomada.Nombre, -1}, {Arreglo::Triangle, destino});
+        mesa.juego.Poner_Origen(antes.Origen);
         // Trays that are hidden, and none at all.
         for (Integer bandeja = -1; bandeja < 3; ++bandeja) {
             mesa.Soltar(tomada, {Arreglo::Adios, bandeja});
