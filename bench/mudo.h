@@ -7,12 +7,12 @@
 namespace corvanda {
 
 class Mudo : public MessageBoxes,
-                   public EventLoop,
-                   public MousePointer,
-                   public RandomNumbers,
-                   public WaveOut,
-                   public App,
-                   public Pantalla {
+             public EventLoop,
+             public MousePointer,
+             public RandomNumbers,
+             public WaveOut,
+             public App,
+             public Pantalla {
   public:
     explicit Mudo(std::uint32_t semilla) : suerte(semilla) {}
 
