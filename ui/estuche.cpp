@@ -21,6 +21,8 @@ namespace {
 constexpr int REGRESO = 140;      // milliseconds of a refused chip's way back
 constexpr qreal ATENUADA = 0.35;  // what is left of a chip at its place while it is dragged
 
+const QColor SOMBRA_DE_MADERA(0x4a, 0x28, 0x14);
+
 Integer Boton_De(Qt::MouseButton boton) {
     switch (boton) {
         case Qt::LeftButton:
@@ -120,6 +122,8 @@ void Estuche::paintEvent(QPaintEvent* evento) {
     pintor.setClipRegion(evento->region());
     const qreal ratio = devicePixelRatioF();
     const QSize entero(qRound(width() * ratio), qRound(height() * ratio));
+    // Where the edges of the picture let something through, it is not what was painted before.
+    pintor.fillRect(evento->rect(), SOMBRA_DE_MADERA);
     pintor.drawPixmap(QPointF(0, 0), estampas.De(Picture::Estuche, entero, ratio));
 
     struct Capa {
