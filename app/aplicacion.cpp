@@ -46,7 +46,10 @@ void Aplicacion::Empezar() {
 // The first showing loads the window; later ones find it where it is. The start-up screen, whose
 // handler may be the caller, is not needed again.
 void Aplicacion::Mostrar_Principal() {
-    if (!principal->isVisible()) principal->Form_Load();
+    if (!principal->isVisible()) {
+        principal->Form_Load();
+        calma.Ask();
+    }
     if (inicio) inicio.release()->deleteLater();
 }
 

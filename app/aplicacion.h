@@ -13,6 +13,7 @@
 #include "desktop/message_box.h"
 #include "desktop/mouse_pointer.h"
 #include "desktop/program_folder.h"
+#include "desktop/reduced_motion.h"
 #include "desktop/settings_file.h"
 #include "desktop/system_close.h"
 #include "desktop/wave_player.h"
@@ -57,6 +58,7 @@ class Aplicacion final : public QObject {
     Estampas estampas;
     QtMediaControl medios;
     SystemClose sistema;
+    ReducedMotion calma;
     Integer veces = 0;  // ticks of all showings of the start-up screen
     std::unique_ptr<FrmPrincipal> principal;
     std::unique_ptr<FrmAbout> inicio;

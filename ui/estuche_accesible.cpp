@@ -158,7 +158,7 @@ int EstucheAccesible::indexOfChild(const QAccessibleInterface* hijo) const {
 QAccessibleInterface* EstucheAccesible::childAt(int x, int y) const {
     const auto cubre = [&](int i) {
         const QAccessibleInterface* hijo = child(i);
-        const Integer dado = static_cast<Integer>(i - lugares::CUANTOS);
+        const auto dado = static_cast<Integer>(i - lugares::CUANTOS);
         const bool a_la_vista =
             dado < 0 || estuche.Estado().Dado.at(static_cast<std::size_t>(dado)).Visible;
         return a_la_vista && hijo->rect().contains(x, y);

@@ -108,7 +108,7 @@ QString Nombre(const Partida& partida, Integer lugar) {
 
 QString Descripcion(Integer lugar) {
     if (!Es_Punto(lugar)) return "At the left edge";
-    const QString fila = lugar < 12 ? "Top row" : "Bottom row";
+    QString fila = lugar < 12 ? "Top row" : "Bottom row";
     const bool de_cafe = lugar < EN_CASA;
     if (!de_cafe && lugar < PUNTOS - EN_CASA) return fila;
     const int pasos = de_cafe ? lugar + 1 : PUNTOS - lugar;

@@ -1,0 +1,65 @@
+#include "desktop/reduced_motion.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QFile>
+#include <QProxyStyle>
+
+namespace corvanda {
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString settings = QStringLiteral("org.freedesktop.portal.Settings");
+const QString group_asked = QStringLiteral("org.gnome.desktop.interface");
+const QString key_asked = QStringLiteral("enable-animations");
+
+class StillStyle final : public QProxyStyle {
+  public:
+    using QProxyStyle::QProxyStyle;
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_Widget_Animation_Duration) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+// Where no bus runs, asking for one would start it.
+bool BusRuns() {
+    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
+           QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
+}
+
+/// The portal wraps its answers once more than it must.
+bool Unwrapped(QVariant value) {
+    while (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
+    return value.toBool();
+}
+
+}  // namespace
+
+void ReducedMotion::Ask() {
+    if (!BusRuns()) return;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) return;
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(service, path, settings, QStringLiteral("Read"));
+    question << group_asked << key_asked;
+    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        const QDBusPendingReply<QDBusVariant> reply = *answer;
+        // The application takes the style over and deletes the one before.
+        if (reply.isValid() && !Unwrapped(QVariant::fromValue(reply.value()))) {
+            QApplication::setStyle(new StillStyle(QApplication::style()->name()));
+        }
+        answer->deleteLater();
+    });
+}
+
+}  // namespace corvanda
