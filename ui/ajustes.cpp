@@ -1,5 +1,7 @@
 #include "ui/ajustes.h"
 
+#include <algorithm>
+
 #include "runtime/conversion.h"
 
 namespace corvanda {
@@ -7,8 +9,13 @@ namespace corvanda {
 namespace {
 
 constexpr const char* SECCION = "Config";
-constexpr const char* NIVEL_BAJO = "Principiante";
-constexpr const char* NIVEL_ALTO = "Avanzado";
+
+/// The mark of a stored level; a name that none has stands for the highest.
+Integer Marca_De(const std::string& guardado) {
+    return std::find_if(NIVELES.begin(), NIVELES.end() - 1,
+                        [&](const Nivel_Del_Menu& cada) { return cada.guardado == guardado; })
+        ->marca;
+}
 
 }  // namespace
 
@@ -20,7 +27,7 @@ void Ajustes::Leer(Menus& menus, Módulo1& modulo) const {
         return almacen.GetSetting(aplicacion, SECCION, clave, defecto);
     };
     menus.mnuSonido->setChecked(Val(leer("Sonido", "-1")) != 0);
-    menus.Marcar_Nivel(leer("Nivel", NIVEL_BAJO) == NIVEL_BAJO ? 0 : 2);
+    menus.Marcar_Nivel(Marca_De(leer("Nivel", NIVELES.front().guardado)));
     modulo.Velocidad = CInt(Val(leer("Velocidad", "100")));
 }
 
@@ -29,7 +36,7 @@ std::string Ajustes::Guardar(const Menus& menus, const Módulo1& modulo) const {
         almacen.SaveSetting(aplicacion, SECCION, clave, valor);
     };
     guardar("Sonido", menus.mnuSonido->isChecked() ? "-1" : "0");
-    guardar("Nivel", menus.mnuLev[0]->isChecked() ? NIVEL_BAJO : NIVEL_ALTO);
+    guardar("Nivel", menus.Nivel_Marcado().guardado);
     guardar("Velocidad", std::to_string(modulo.Velocidad));
     return almacen.Commit();
 }

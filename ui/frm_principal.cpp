@@ -77,8 +77,10 @@ void FrmPrincipal::Conectar_Menus() {
     conectar(menus.mnuAcerca, &FrmPrincipal::mnuAcerca_Click);
     conectar(menus.mnuSalir, &FrmPrincipal::mnuSalir_Click);
     connect(menus.mnuPasar, &QAction::triggered, this, [this] { juego.mnuPasar_Click(); });
-    connect(menus.mnuLev[0], &QAction::triggered, this, [this] { mnuLev_Click(0); });
-    connect(menus.mnuLev[2], &QAction::triggered, this, [this] { mnuLev_Click(2); });
+    for (const Nivel_Del_Menu& cada : NIVELES) {
+        QAction* entrada = menus.mnuLev.at(static_cast<std::size_t>(cada.marca));
+        connect(entrada, &QAction::triggered, this, [this, cada] { mnuLev_Click(cada.marca); });
+    }
 }
 
 void FrmPrincipal::Conectar_Tablero() {
@@ -179,7 +181,7 @@ void FrmPrincipal::mnuNew_Click() {
 
 void FrmPrincipal::mnuVs_Click() {
     contexto_de_ayuda = 1;
-    juego.Empezar(menus.mnuLev[0]->isChecked() ? PRINCIPIANTE : AVANZADO, *this);
+    juego.Empezar(menus.Nivel_Marcado().nivel, *this);
 }
 
 void FrmPrincipal::Mostrar() {
@@ -190,7 +192,7 @@ void FrmPrincipal::Mostrar() {
 
 void FrmPrincipal::mnuLev_Click(Integer Index) {
     menus.Marcar_Nivel(Index);
-    partida.Nivel = Index == 0 ? PRINCIPIANTE : AVANZADO;
+    partida.Nivel = menus.Nivel_Marcado().nivel;
 }
 
 void FrmPrincipal::mnuSonido_Click() {

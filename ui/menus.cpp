@@ -2,6 +2,7 @@
 
 #include <QKeySequence>
 #include <QMenu>
+#include <algorithm>
 
 namespace corvanda {
 
@@ -77,9 +78,16 @@ void Menus::Hacer_Ayuda(QMenuBar& barra) {
     mnuAcerca = Entrada(menu, "mnuAcerca", "About...");
 }
 
-void Menus::Marcar_Nivel(Integer index) {
-    mnuLev[0]->setChecked(index == 0);
-    mnuLev[2]->setChecked(index != 0);
+void Menus::Marcar_Nivel(Integer marca) {
+    for (const Nivel_Del_Menu& cada : NIVELES) {
+        mnuLev.at(static_cast<std::size_t>(cada.marca))->setChecked(cada.marca == marca);
+    }
+}
+
+const Nivel_Del_Menu& Menus::Nivel_Marcado() const {
+    return *std::find_if(NIVELES.begin(), NIVELES.end() - 1, [this](const Nivel_Del_Menu& cada) {
+        return mnuLev.at(static_cast<std::size_t>(cada.marca))->isChecked();
+    });
 }
 
 }  // namespace corvanda

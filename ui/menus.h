@@ -6,7 +6,7 @@
 #include <QMenuBar>
 #include <array>
 
-#include "runtime/types.h"
+#include "ui/niveles.h"
 
 namespace corvanda {
 
@@ -26,8 +26,10 @@ class Menus {
     QAction* mnuAcerca = nullptr;
     QAction* mnuSalir = nullptr;
 
-    /// Checks level 0 or 2 and unchecks the other.
-    void Marcar_Nivel(Integer index);
+    /// Checks the level with this mark and unchecks the others.
+    void Marcar_Nivel(Integer marca);
+    /// The level that is checked.
+    const Nivel_Del_Menu& Nivel_Marcado() const;
 
   private:
     void Hacer_Juego(QMenuBar& barra);

@@ -178,7 +178,7 @@ TEST_F(WaveTest, a_file_that_cannot_be_played_is_a_beep_and_no_device_is_silence
         for (const char* name : {"missing.Wav", "damaged.Wav", ""}) {
             Play(name);
             EXPECT_EQ(beeps, expected) << "the call itself does not beep";
-            EXPECT_TRUE(Comes([&] { return beeps == expected + 1; })) << driver << name;
+            ASSERT_TRUE(Comes([&] { return beeps == expected + 1; })) << driver << name;
             ++expected;
         }
     }
