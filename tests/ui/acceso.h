@@ -19,62 +19,38 @@ struct Sin_Raton {
         frm.Form_Load();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&frm));
         // At large device pixel ratios the test's screen is smaller than the case.
-        if (frm.width() < Tablero().width()) frm.showNormal();
-        Poner(posicion);
-    }
-
-    void Poner(const std::string& posicion) {
+        if (frm.width() < tablero.width()) frm.showNormal();
         partida.Sonido = False;
-        pruebas::Poner(frm.Mesa(), partida, posicion);
+        Poner(frm.Mesa(), partida, posicion);
         QCoreApplication::processEvents();
         escritorio.Leer();
     }
 
-    /// Keys arrive at the window; the toolkit finds the control.
-    void Tecla(Qt::Key tecla, Qt::KeyboardModifiers con = {}) {
-        QTest::keyClick(frm.windowHandle(), tecla, con);
-    }
-    void Teclas(Qt::Key tecla, int veces) {
-        for (int i = 0; i < veces; ++i) Tecla(tecla);
-    }
-    /// Letters for keys: left, right, up, down, Home, End, tab, back, space, Enter, and X for Esc.
+    /// Letters for keys: left, right, up, down, Home, End, tab, back, space, Enter, X for Esc, and
+    /// p for the pass. They arrive at the window; the toolkit finds the control.
     void Teclas(const std::string& letras) {
+        constexpr Qt::Key TECLAS[] = {Qt::Key_Left,   Qt::Key_Right,   Qt::Key_Up,
+                                      Qt::Key_Down,   Qt::Key_Home,    Qt::Key_End,
+                                      Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Space,
+                                      Qt::Key_Return, Qt::Key_Escape,  Qt::Key_F9};
         for (const char letra : letras) {
-            const std::size_t cual = std::string("lrudHEtbs\nX").find(letra);
-            constexpr Qt::Key TECLAS[] = {Qt::Key_Left,   Qt::Key_Right,   Qt::Key_Up,
-                                          Qt::Key_Down,   Qt::Key_Home,    Qt::Key_End,
-                                          Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Space,
-                                          Qt::Key_Return, Qt::Key_Escape};
-            Tecla(TECLAS[cual]);
+            const auto cual = std::string("lrudHEtbs\nXp").find(letra);
+            QTest::keyClick(frm.windowHandle(), TECLAS[cual]);
         }
     }
-    /// Brings the frame to a place (as in LST) with the arrow keys: to the corner, then by
-    /// counting.
+    /// Brings the frame to a place (as in LST) with the arrow keys, row by row.
     void Ir(Integer lugar) {
-        const bool arriba = lugar < 12 || lugar == BARRA_BLANCA || lugar == BANDEJA_CAFE;
-        int columna = lugar < 12 ? 2 + lugar : 25 - lugar;
-        if (lugar >= PUNTOS) columna = lugar == BARRA_BLANCA || lugar == BARRA_CAFE ? 1 : 0;
-        if (!Teclado_De().A_La_Vista()) Tecla(Qt::Key_Up);
-        Tecla(arriba ? Qt::Key_Up : Qt::Key_Down);
-        Tecla(Qt::Key_Home);
-        Teclas(Qt::Key_Right, columna);
-        EXPECT_EQ(Teclado_De().Elegido(), lugar);
+        Teclas("uuH");
+        for (int i = 0; i < 27 && teclado.Elegido() != lugar; ++i) Teclas(i == 13 ? "dH" : "r");
+        EXPECT_EQ(teclado.Elegido(), lugar);
     }
     /// Takes the top chip of a place and drops it on another one.
     void Jugar(Integer desde, Integer hasta) {
         Ir(desde);
-        Tecla(Qt::Key_Space);
+        Teclas("s");
         Ir(hasta);
-        Tecla(Qt::Key_Return);
+        Teclas("\n");
     }
-
-    Diario Leer() {
-        Diario diario = escritorio.Leer();
-        std::erase_if(diario, [](const auto& linea) { return linea.starts_with("puntero"); });
-        return diario;
-    }
-    Estuche& Tablero() { return frm.Tablero(); }
-    Teclado& Teclado_De() { return frm.Tablero().Teclas(); }
 
     Escritorio escritorio;
     Partida partida = Diseno();
@@ -86,6 +62,8 @@ struct Sin_Raton {
                      Escala(),
                      estampas,
                      &computadora};
+    Estuche& tablero = frm.Tablero();
+    Teclado& teclado = tablero.Teclas();
 };
 
 }  // namespace corvanda::pruebas

@@ -1,4 +1,5 @@
 // Chips dragged with the mouse over the real board.
+#include <QDialog>
 #include <variant>
 
 #include "tests/ui/ventana.h"
@@ -102,6 +103,12 @@ TEST(Raton, ends_without_effect_when_something_comes_between) {
                  Pulsar(caja, "OK");
              });
              QTest::keyClick(&v.frm, Qt::Key_F9);
+         }},
+        {"a dialog that the desktop gives no focus",
+         [](Ventana& v) {
+             QDialog dialogo(&v.frm);
+             dialogo.setAttribute(Qt::WA_ShowWithoutActivating);
+             dialogo.open();
          }},
         {"a new game",
          [](Ventana& v) {
