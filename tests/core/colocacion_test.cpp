@@ -33,7 +33,8 @@ std::uint64_t Firma(const Partida& partida) {
         }
     }
     for (const Image& i : partida.Dados) {
-        firma = firma * 1099511628211U + static_cast<std::uint64_t>(i.Width + 2 * i.Left);
+        firma = firma * 1099511628211U +
+                static_cast<std::uint64_t>(i.Width + 2 * i.Left + 3 * i.Height + 5 * i.Top);
     }
     return firma;
 }
@@ -41,8 +42,8 @@ std::uint64_t Firma(const Partida& partida) {
 // The numbers change only when the layout or the starting position does.
 TEST(Colocacion, The_Board_As_Designed_And_As_A_Game_Begins) {
     const Mesa mesa;
-    EXPECT_EQ(Firma(Diseno()), 3845374076052062094U);
-    EXPECT_EQ(Firma(mesa.partida), 18040620791810161845U);
+    EXPECT_EQ(Firma(Diseno()), 18124513156546931162U);
+    EXPECT_EQ(Firma(mesa.partida), 13873015798595479297U);
     EXPECT_EQ(mesa.partida.Jugando, False);
     EXPECT_EQ(mesa.partida.Tablero[1].Width, 3960);
     EXPECT_EQ(mesa.partida.Tablero[1].Height, 5820);

@@ -284,7 +284,8 @@ TEST(Arrastre, Only_The_Chip_That_Was_Taken_Can_Be_Dropped) {
         mesa.Soltar(tomada, {Arreglo::Cafe, -1});
         // An empty bar holds no chip, whatever its number.
         mesa.juego.Poner_Origen(blanca ? ORIGEN_BARRA_BLANCA : ORIGEN_BARRA_CAFE);
-        mesa.Soltar({tomada.Nombre, -1}, {Arreglo::Triangle, destino});
+        const Integer entrada = blanca ? 2 : 21;  // that the 3 pays
+        mesa.Soltar({tomada.Nombre, -1}, {Arreglo::Triangle, entrada});
         mesa.juego.Poner_Origen(antes.Origen);
         // Trays that are hidden, and none at all.
         for (Integer bandeja = -1; bandeja < 3; ++bandeja) {
