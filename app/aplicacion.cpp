@@ -1,11 +1,14 @@
 #include "app/aplicacion.h"
 
 #include <QGuiApplication>
+#include <QPixmapCache>
 #include <QScreen>
 
 namespace corvanda {
 
 namespace {
+
+constexpr int ESTAMPAS_DEL_ESTILO = 512;  // KiB
 
 Escala De_La_Pantalla() {
     return Escala::Para(QGuiApplication::primaryScreen()->availableGeometry().size());
@@ -21,6 +24,8 @@ Aplicacion::Aplicacion(RandomNumbers& azar)
     // The windows come and go; only the main window's word ends the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName("corvanda");
+    // The board keeps its pictures itself; the toolkit's store would only fill up with buttons.
+    QPixmapCache::setCacheLimit(ESTAMPAS_DEL_ESTILO);
     sonidos.LookForDevices();
 
     const Servicios servicios{mensajes, eventos, puntero, azar, sonidos, almacen, ayuda, programa};

@@ -41,7 +41,7 @@ HelpFile::Condition HelpFile::Load(const QString& name) {
     QFile file(name);
     // Anything but an ordinary file might never end, or never begin.
     if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) return Condition::Missing;
-    const QByteArray sealed = file.read(largest_file + 1);
+    const QByteArray sealed = file.read(std::min(file.size(), largest_file) + 1);
     if (sealed.isEmpty() && file.error() != QFileDevice::NoError) return Condition::Missing;
     if (sealed.size() > largest_file) return Condition::Damaged;
     bytes = Unsealed(sealed);

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QtEndian>
+#include <algorithm>
 
 namespace corvanda::media {
 
@@ -74,7 +75,7 @@ QByteArray ReadBytes(const QString& name) {
     QFile file(name);
     // A pipe or a device might never end.
     if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) return {};
-    QByteArray bytes = file.read(largest_file + 1);
+    QByteArray bytes = file.read(std::min(file.size(), largest_file) + 1);
     return bytes.size() > largest_file ? QByteArray() : bytes;
 }
 

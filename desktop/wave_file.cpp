@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <memory>
 
 namespace corvanda::wave {
@@ -25,7 +26,7 @@ QByteArray ReadBytes(const QString& name) {
     QFile file(name);
     // A pipe or a device might never end.
     if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = file.read(largest_file + 1);
+    const QByteArray bytes = file.read(std::min(file.size(), largest_file) + 1);
     return bytes.size() > largest_file ? QByteArray() : bytes;
 }
 

@@ -98,6 +98,8 @@ int Medir(int partidas) {
     double al_decimo = 0;
     for (int i = 1; i <= partidas; ++i) {
         jugador.Partida_Entera(i);
+        // What a return to the program's own event loop would take away.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         if (i % 10 != 0) continue;
         malloc_trim(0);
         if (i == 10) al_decimo = En_Uso();
