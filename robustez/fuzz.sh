@@ -19,18 +19,30 @@ compilar fuzz "${@/#/fuzz_}" || exit 1
 export QT_QPA_PLATFORM=offscreen
 export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
 mkdir -p build/fuzz/fallos build/log
-for nombre; do
-    hallado=build/fuzz/hallado/$nombre
-    registro=build/log/fuzz-$nombre.log
+
+correr() {  # correr NAME
+    local hallado=build/fuzz/hallado/$1 registro=build/log/fuzz-$1.log
     mkdir -p "$hallado"
-    if ! build/fuzz/bin/fuzz_"$nombre" -max_total_time="$segundos" -timeout=30 \
+    if ! build/fuzz/bin/fuzz_"$1" -max_total_time="$segundos" -timeout=30 \
         -print_final_stats=1 -artifact_prefix=build/fuzz/fallos/ \
-        "$hallado" robustez/semillas/"$nombre" >"$registro" 2>&1 </dev/null; then
+        "$hallado" robustez/semillas/"$1" >"$registro" 2>&1 </dev/null; then
         tail -n 30 "$registro" >&2
-        echo "fuzz: $nombre found something: see $registro" >&2
-        exit 1
+        echo "fuzz: $1 found something: see $registro" >&2
+        return 1
     fi
-    awk -v nombre="$nombre" '/ cov: / {for (i = 1; i < NF; ++i) if ($i == "cov:") c = $(i + 1)}
+    awk -v nombre="$1" '/ cov: / {for (i = 1; i < NF; ++i) if ($i == "cov:") c = $(i + 1)}
         /number_of_executed_units/ {n = $2}
         END {printf "fuzz %-8s %10d executions, coverage %d points, nothing found\n", nombre, n, c}' "$registro"
+}
+
+# Two at a time.
+estado=0
+while [ $# -gt 0 ]; do
+    correr "$1" & primero=$!
+    segundo=
+    [ $# -gt 1 ] && { correr "$2" & segundo=$!; shift; }
+    shift
+    wait $primero || estado=1
+    [ -z "$segundo" ] || wait "$segundo" || estado=1
 done
+exit $estado
