@@ -294,6 +294,12 @@ TEST(Arrastre, Only_The_Chip_That_Was_Taken_Can_Be_Dropped) {
         EXPECT_TRUE(mesa.partida == antes) << Texto(mesa.partida);
         EXPECT_EQ(mesa.escritorio.Leer(), Diario{});
     }
+    // Of two on the bar, the one below.
+    Mesa mesa("B bar2 9x13 | C 23x15 | dice 3 1");
+    ASSERT_EQ(mesa.Presionar({Arreglo::Blanca, 1}), (Control{Arreglo::Blanca, 1}));
+    const Partida antes = mesa.partida;
+    mesa.Soltar({Arreglo::Blanca, 0}, {Arreglo::Triangle, 2});
+    EXPECT_TRUE(mesa.partida == antes) << Texto(mesa.partida);
 }
 
 TEST(Arrastre, The_Image_Under_A_Place) {
