@@ -9,21 +9,16 @@
 set -u
 cd "$(dirname "$0")/.." || exit 2
 tools/instalar.sh build run test || exit 1
-source tools/construir.sh
+. tools/pantalla.sh
+. tools/construir.sh
 configurado release bench_nucleo bench_pausa bench_ventana corvanda || configurar release || exit 1
 compilar release bench_nucleo bench_pausa bench_ventana corvanda || exit 1
 bin=build/release/bin
 
 work=$(mktemp -d)
 export HOME=$work XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work/config
-Xvfb -displayfd 3 -screen 0 1920x1080x24 -nolisten tcp 3>"$work/display" >/dev/null 2>&1 &
-server=$!
-manager=
-trap 'kill $manager $server 2>/dev/null; rm -rf "$work"' EXIT
-for _ in {1..50}; do [ -s "$work/display" ] && break; sleep 0.1; done
-export DISPLAY=:$(cat "$work/display")
-openbox >/dev/null 2>&1 & manager=$!
-sleep 1
+trap 'cerrar_pantalla; rm -rf "$work"' EXIT
+abrir_pantalla || exit 1
 
 ms() { local t=${EPOCHREALTIME/[.,]/}; echo $((t / 1000)); }
 

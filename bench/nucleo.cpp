@@ -12,7 +12,6 @@
 #include "bench/mudo.h"
 #include "computer/busqueda.h"
 #include "computer/computadora.h"
-#include "demostracion/jugador.h"
 
 namespace corvanda {
 namespace {
@@ -65,29 +64,11 @@ void Mover_Y_Volver(Mesa& mesa, long veces) {
     }
 }
 
-void Jugar_Una(Mesa& mesa) {
-    const Jugada jugada = Elegir(mesa.partida);
-    if (jugada.clase == Jugada::Clase::Pasar) return mesa.juego.mnuPasar_Click();
-    const bool blanca = mesa.partida.Turno == BLANCA;
-    const Integer lugar = jugada.origen == ORIGEN_BARRA_BLANCA ? BARRA_BLANCA : jugada.origen;
-    const Integer ficha = Pila_En(mesa.partida, lugar).Tope();
-    if (blanca) {
-        mesa.juego.Blanca_MouseDown(ficha, LeftButton);
-    } else {
-        mesa.juego.Cafe_MouseDown(ficha, LeftButton);
-    }
-    if (jugada.clase == Jugada::Clase::Sacar) {
-        mesa.juego.Adios_DragDrop(static_cast<Integer>(blanca ? 1 : 0), mesa.mudo.arrastrada);
-    } else {
-        mesa.juego.Triangle_DragDrop(jugada.destino, mesa.mudo.arrastrada);
-    }
-}
-
 void Jugar_Partidas(Mesa& mesa, Byte nivel, int cuantas) {
     Empieza volado(mesa.partida);
     for (int i = 0; i < cuantas; ++i) {
         mesa.juego.Empezar(nivel, volado);
-        while (mesa.partida.Jugando != False) Jugar_Una(mesa);
+        while (mesa.partida.Jugando != False) mesa.mudo.Jugar_Una(mesa.juego);
     }
 }
 
@@ -100,7 +81,7 @@ std::vector<Partida> Posiciones_De_Cafe(std::size_t cuantas) {
         if (mesa.partida.Jugando == False) mesa.juego.Empezar(DOS_PERSONAS, volado);
         const bool libre = Pila_En(mesa.partida, BARRA_CAFE).Cuenta() == 0;
         if (mesa.partida.Turno == CAFE && libre) posiciones.push_back(mesa.partida);
-        Jugar_Una(mesa);
+        mesa.mudo.Jugar_Una(mesa.juego);
     }
     return posiciones;
 }

@@ -5,7 +5,6 @@
 //     bench_ventana
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QMouseEvent>
 #include <QTimer>
 #include <algorithm>
@@ -16,6 +15,7 @@
 #include <vector>
 
 #include "app/aplicacion.h"
+#include "bench/proceso.h"
 #include "demostracion/jugador.h"
 #include "runtime/random.h"
 
@@ -26,17 +26,6 @@ double Procesador() {
     timespec tiempo{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &tiempo);
     return static_cast<double>(tiempo.tv_sec) * 1e3 + static_cast<double>(tiempo.tv_nsec) / 1e6;
-}
-
-/// Proportional memory in MiB.
-double Memoria() {
-    QFile archivo("/proc/self/smaps_rollup");
-    if (!archivo.open(QIODevice::ReadOnly)) return 0;
-    for (const QByteArray& linea : archivo.readAll().split('\n')) {
-        if (linea.startsWith("Pss:"))
-            return linea.mid(4).simplified().split(' ')[0].toDouble() / 1024;
-    }
-    return 0;
 }
 
 /// Notes when a widget was first painted.
@@ -133,7 +122,8 @@ void Medir_Principal() {
     QElapsedTimer calma;
     calma.start();
     while (calma.elapsed() < 500) QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-    std::printf("proportional memory at rest, MiB                         %8.1f\n", Memoria());
+    std::printf("proportional memory at rest, MiB                         %8.1f\n",
+                Memoria_Proporcional());
 
     Quien_Empieza volado(programa.Estado());
     ventana.Mesa().Empezar(DOS_PERSONAS, volado);

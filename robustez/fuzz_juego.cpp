@@ -4,7 +4,6 @@
 // still.
 #include "bench/mudo.h"
 #include "computer/computadora.h"
-#include "demostracion/jugador.h"
 #include "robustez/entrada.h"
 
 namespace corvanda {
@@ -120,22 +119,7 @@ class Sesion final : public Mudo {
     // What somebody who wants to win would do, so that games come to their end.
     void Jugada_Cuerda() {
         if (partida.Jugando == False) return juego.Empezar(partida.Nivel, dialogo);
-        const Jugada jugada = Elegir(partida);
-        if (jugada.clase == Jugada::Clase::Pasar) return juego.mnuPasar_Click();
-        const bool blanca = partida.Turno == BLANCA;
-        const bool en_barra = !Es_Punto(jugada.origen);
-        const Integer lugar = en_barra ? (blanca ? BARRA_BLANCA : BARRA_CAFE) : jugada.origen;
-        const Integer ficha = Pila_En(partida, lugar).Tope();
-        if (blanca) {
-            juego.Blanca_MouseDown(ficha, LeftButton);
-        } else {
-            juego.Cafe_MouseDown(ficha, LeftButton);
-        }
-        if (jugada.clase == Jugada::Clase::Sacar) {
-            juego.Adios_DragDrop(static_cast<Integer>(blanca ? 1 : 0), arrastrada);
-        } else {
-            juego.Triangle_DragDrop(jugada.destino, arrastrada);
-        }
+        Jugar_Una(juego);
     }
 
     Entrada& entrada;

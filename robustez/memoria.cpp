@@ -7,7 +7,6 @@
 #include <malloc.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -17,6 +16,7 @@
 #include <cstdlib>
 
 #include "app/aplicacion.h"
+#include "bench/proceso.h"
 #include "demostracion/jugador.h"
 #include "runtime/random.h"
 
@@ -27,17 +27,6 @@ constexpr double MEBIBYTE = 1024.0 * 1024.0;
 
 double En_Uso() {
     return static_cast<double>(mallinfo2().uordblks) / MEBIBYTE;
-}
-
-/// Proportional memory of the process, MiB.
-double Proporcional() {
-    QFile archivo("/proc/self/smaps_rollup");
-    if (!archivo.open(QIODevice::ReadOnly)) return 0;
-    for (const QByteArray& linea : archivo.readAll().split('\n')) {
-        if (linea.startsWith("Pss:"))
-            return linea.mid(4).simplified().split(' ')[0].toDouble() / 1024;
-    }
-    return 0;
 }
 
 /// Presses the default button of whatever box or dialog opens.
@@ -104,7 +93,7 @@ int Medir(int partidas) {
         malloc_trim(0);
         if (i == 10) al_decimo = En_Uso();
         std::printf("after game %4d: heap in use %7.3f MiB, proportional memory %6.1f MiB\n", i,
-                    En_Uso(), Proporcional());
+                    En_Uso(), Memoria_Proporcional());
         std::fflush(stdout);
     }
     const double crecida = En_Uso() - al_decimo;
