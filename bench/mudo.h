@@ -37,7 +37,7 @@ class Mudo : public MessageBoxes,
     void Cancelar_Arrastre() override {}
 
     /// The next move of a game that runs, through the handlers as a hand would: a press and a drop.
-    void Jugar_Una(Juego& juego) {
+    void Jugar_Una(Juego& juego) const {
         const Partida& partida = juego.Estado();
         const Jugada jugada = Elegir(partida);
         if (jugada.clase == Jugada::Clase::Pasar) return juego.mnuPasar_Click();
