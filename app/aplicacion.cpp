@@ -4,6 +4,8 @@
 #include <QPixmapCache>
 #include <QScreen>
 
+#include "desktop/heap.h"
+
 namespace corvanda {
 
 namespace {
@@ -45,6 +47,7 @@ std::unique_ptr<FrmAbout> Aplicacion::Hacer_Acerca(QWidget* ventana) {
 
 void Aplicacion::Empezar() {
     inicio = Hacer_Acerca(nullptr);
+    connect(inicio.get(), &QObject::destroyed, this, [] { ReturnFreeMemory(); });
     inicio->show();
 }
 

@@ -24,18 +24,16 @@ void Juego::Cargar_Controles() {
 }
 
 void Juego::Vestir_Tablero() {
-    Dar_Estampa({Arreglo::Tablero, 1}, partida.Tablero[0].Shown);
-    // The first two points of each row have the pictures of all the others.
-    for (Integer i = 0; i < PUNTOS; ++i) {
-        const auto muestra = static_cast<Integer>(i / 12 * 12 + i % 2);
-        Dar_Estampa({Arreglo::Triangle, i}, Imagen({Arreglo::Triangle, muestra}).Shown);
-    }
-
-    const Image& ultimo = partida.Triangle[23];
-    const Single height = ultimo.Top + ultimo.Height - partida.Tablero[0].Top / 2;
-    const Single width = partida.Triangle[5].Left;
-    Ajustar({Arreglo::Tablero, 0}, width, height);
-    Ajustar({Arreglo::Tablero, 1}, width, height);
+    const Partida antes = partida;
+    Vestir(partida);
+    const auto contar = [this](Arreglo nombre, const auto& miembros) {
+        for (std::size_t i = 0; i < miembros.size(); ++i) {
+            const Control control{nombre, static_cast<Integer>(i)};
+            if (Imagen(control) != miembros[i]) puertos.Tablero.Refrescar(control, miembros[i]);
+        }
+    };
+    contar(Arreglo::Tablero, antes.Tablero);
+    contar(Arreglo::Triangle, antes.Triangle);
 }
 
 Single Juego::Altura_Base(Integer punto) const {

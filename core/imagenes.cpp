@@ -41,13 +41,6 @@ void Juego::Dar_Estampa(Control control, Picture estampa) {
             [&](Image& imagen) { imagen.Shown = estampa; });
 }
 
-void Juego::Ajustar(Control control, Single width, Single height) {
-    Cambiar(Imagen(control), control, puertos.Tablero, [&](Image& imagen) {
-        imagen.Width = width;
-        imagen.Height = height;
-    });
-}
-
 void Juego::Al_Frente(Control control) {
     Cambiar(Imagen(control), control, puertos.Tablero,
             [&](Image& imagen) { imagen.ZOrder = ++partida.Frente; });

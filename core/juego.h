@@ -45,7 +45,7 @@ class Juego {
 
     /// Creates the members of the chip arrays as copies of member 0. Once, before Ordenar.
     void Cargar_Controles();
-    /// Gives the board halves and points their pictures and fits the halves to the points.
+    /// Vestir, told to the board.
     void Vestir_Tablero();
     /// Clears the board and places the starting position. Leaves Turno, Jugando, the dice values,
     /// Dobles, Nivel, Sonido and Velocidad alone.
@@ -128,7 +128,6 @@ class Juego {
     void Mostrar(Control control, bool visible);
     void Habilitar(Control control, bool enabled);
     void Dar_Estampa(Control control, Picture estampa);
-    void Ajustar(Control control, Single width, Single height);
     void Al_Frente(Control control);
 
     Single Altura_Base(Integer punto) const;

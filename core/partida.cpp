@@ -79,4 +79,17 @@ Partida Diseno() {
     return partida;
 }
 
+void Vestir(Partida& partida) {
+    partida.Tablero[1].Shown = partida.Tablero[0].Shown;
+    // The first two points of each row have the pictures of all the others.
+    for (std::size_t i = 0; i < PUNTOS; ++i) {
+        partida.Triangle[i].Shown = partida.Triangle[i / 12 * 12 + i % 2].Shown;
+    }
+    const Image& ultimo = partida.Triangle[23];
+    for (Image& mitad : partida.Tablero) {
+        mitad.Height = ultimo.Top + ultimo.Height - partida.Tablero[0].Top / 2;
+        mitad.Width = partida.Triangle[5].Left;
+    }
+}
+
 }  // namespace corvanda

@@ -84,8 +84,11 @@ struct Partida : Módulo1 {
 };
 
 /// The window's layout before any chip is placed: every image at its design place, nothing shown
-/// that only a game shows. The copied pictures and fitted heights come with Juego::Vestir_Tablero.
+/// that only a game shows.
 Partida Diseno();
+/// Gives the board halves and points of that layout their pictures and fits the halves to the
+/// points.
+void Vestir(Partida& partida);
 
 /// Bounds-checked access for index values that the game computes with 16-bit arithmetic.
 inline Pila& Pila_En(Partida& partida, Integer lugar) {

@@ -45,6 +45,10 @@ quint64 Clave(Picture estampa, QSize tamano) {
            static_cast<quint64>(tamano.height());
 }
 
+Picture Estampa_De(quint64 clave) {
+    return static_cast<Picture>(clave >> 48);
+}
+
 QImage Lienzo(QSize tamano) {
     QImage lienzo(tamano.expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
     lienzo.fill(Qt::transparent);
@@ -105,6 +109,10 @@ QPixmap Estampas::De(Picture estampa, QSize tamano, qreal ratio) {
     QPixmap& hecha = hechas[clave];
     hecha.setDevicePixelRatio(ratio);
     return hecha;
+}
+
+void Estampas::Olvidar(Picture estampa) {
+    hechas.removeIf([estampa](const auto& hecha) { return Estampa_De(hecha.key()) == estampa; });
 }
 
 QPixmap Estampas::Suelta(const QString& nombre, int lado, qreal ratio) {

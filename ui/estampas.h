@@ -35,6 +35,8 @@ class Estampas {
 
     /// The picture in device pixels, to be drawn at that size divided by the ratio.
     QPixmap De(Picture estampa, QSize tamano, qreal ratio);
+    /// Keeps none of the sizes of a picture that is not needed for a while.
+    void Olvidar(Picture estampa);
 
     /// A picture by the name of its file ("corvanda", "mano"), square.
     QPixmap Suelta(const QString& nombre, int lado, qreal ratio);

@@ -1,15 +1,11 @@
 #include "ui/estuche.h"
 
-#include <QFont>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <utility>
-#include <vector>
 
 #include "ui/estuche_accesible.h"
 #include "ui/lugares.h"
@@ -20,8 +16,6 @@ namespace {
 
 constexpr int REGRESO = 140;      // milliseconds of a refused chip's way back
 constexpr qreal ATENUADA = 0.35;  // what is left of a chip at its place while it is dragged
-
-const QColor SOMBRA_DE_MADERA(0x4a, 0x28, 0x14);
 
 Integer Boton_De(Qt::MouseButton boton) {
     switch (boton) {
@@ -36,14 +30,14 @@ Integer Boton_De(Qt::MouseButton boton) {
     }
 }
 
-bool Es_Ficha_O_Dado(Picture estampa) {
-    return estampa == Picture::Blanca || estampa == Picture::Cafe || estampa >= Picture::Dado1;
-}
-
 }  // namespace
 
 Estuche::Estuche(const Partida& partida, const Escala& escala, Estampas& estampas, QWidget* fondo)
-    : QWidget(fondo), partida(partida), escala(escala), estampas(estampas), flotante(fondo) {
+    : QWidget(fondo),
+      partida(partida),
+      escala(escala),
+      pintura(partida, this->escala, estampas, *this),
+      flotante(fondo) {
     // Before anything is told of this widget, or it would be described as any other.
     EstucheAccesible::Instalar();
     setObjectName("Estuche");
@@ -60,37 +54,7 @@ Estuche::Estuche(const Partida& partida, const Escala& escala, Estampas& estampa
                            : QCursor(dibujo, lado * 16 / 32, lado * 18 / 32);
     renovacion.setSingleShot(true);
     connect(&renovacion, &QTimer::timeout, this, &Estuche::Renovar_Puntero);
-    Preparar_Estampas();
-}
-
-void Estuche::Preparar_Estampas() {
-    std::vector<Estampas::Pedido> pedidos;
-    const qreal ratio = devicePixelRatioF();
-    pedidos.push_back({Picture::Estuche, QSize(qRound(width() * ratio), qRound(height() * ratio))});
-    const auto pedir = [&](const Image& imagen, Picture estampa) {
-        if (estampa != Picture::None) pedidos.push_back({estampa, Pixeles_De(imagen)});
-    };
-    for (const Image& imagen : partida.Tablero) pedir(imagen, imagen.Shown);
-    for (const Image& imagen : partida.Triangle) pedir(imagen, imagen.Shown);
-    pedir(partida.Blanca[0], Picture::Blanca);
-    pedir(partida.Cafe[0], Picture::Cafe);
-    estampas.Preparar(pedidos);
-}
-
-// Chips and dice keep one size, so that each is rendered once and sharp; the others meet their
-// neighbours, so both of their edges are rounded.
-QRectF Estuche::Lugar(const Image& imagen) const {
-    const qreal ratio = devicePixelRatioF();
-    const auto rejilla = [&](double twips) {
-        return std::round(escala.Pixeles(twips) * ratio) / ratio;
-    };
-    const auto left = static_cast<double>(imagen.Left);
-    const auto top = static_cast<double>(imagen.Top);
-    const QPointF esquina(rejilla(left), rejilla(top));
-    const auto width = static_cast<double>(imagen.Width);
-    const auto height = static_cast<double>(imagen.Height);
-    if (Es_Ficha_O_Dado(imagen.Shown)) return {esquina, QSizeF(rejilla(width), rejilla(height))};
-    return {esquina, QPointF(rejilla(left + width), rejilla(top + height))};
+    pintura.Preparar();
 }
 
 QRect Estuche::Area(Integer lugar) const {
@@ -100,14 +64,6 @@ QRect Estuche::Area(Integer lugar) const {
 
 int Estuche::Grueso() const {
     return std::max(2, qRound(escala.Pixeles(30)));
-}
-
-QSize Estuche::Pixeles_De(const Image& imagen) const {
-    return (Lugar(imagen).size() * devicePixelRatioF()).toSize();
-}
-
-QPixmap Estuche::Estampa_De(const Image& imagen) const {
-    return estampas.De(imagen.Shown, Pixeles_De(imagen), devicePixelRatioF());
 }
 
 Control Estuche::Bajo(QPointF lugar) const {
@@ -120,74 +76,8 @@ Control Estuche::Bajo(QPointF lugar) const {
 void Estuche::paintEvent(QPaintEvent* evento) {
     QPainter pintor(this);
     pintor.setClipRegion(evento->region());
-    const qreal ratio = devicePixelRatioF();
-    const QSize entero(qRound(width() * ratio), qRound(height() * ratio));
-    // Where the edges of the picture let something through, it is not what was painted before.
-    pintor.fillRect(evento->rect(), SOMBRA_DE_MADERA);
-    pintor.drawPixmap(QPointF(0, 0), estampas.De(Picture::Estuche, entero, ratio));
-
-    struct Capa {
-        const Image* imagen;
-        Control control;
-    };
-    std::vector<Capa> capas;
-    const QRectF tocado(evento->rect());
-    const auto juntar = [&](const auto& miembros, Arreglo nombre) {
-        for (std::size_t i = 0; i < miembros.size(); ++i) {
-            const Image& imagen = miembros[i];
-            if (!imagen.Visible || imagen.Shown == Picture::None) continue;
-            if (!Lugar(imagen).intersects(tocado)) continue;
-            capas.push_back({&imagen, {nombre, static_cast<Integer>(i)}});
-        }
-    };
-    juntar(partida.Tablero, Arreglo::Tablero);
-    juntar(partida.Triangle, Arreglo::Triangle);
-    juntar(partida.Adios, Arreglo::Adios);
-    juntar(partida.Blanca, Arreglo::Blanca);
-    juntar(partida.Cafe, Arreglo::Cafe);
-    juntar(partida.Dado, Arreglo::Dado);
-    std::sort(capas.begin(), capas.end(), [](const Capa& una, const Capa& otra) {
-        return una.imagen->ZOrder < otra.imagen->ZOrder;
-    });
-    for (const Capa& capa : capas) Pintar(pintor, *capa.imagen, capa.control);
-    for (Integer lugar = 0; lugar <= BARRA_BLANCA; ++lugar) Pintar_Cuenta(pintor, lugar);
+    pintura.Pintar(pintor, evento->rect(), velada);
     teclado.Pintar(pintor);
-}
-
-void Estuche::Pintar(QPainter& pintor, const Image& imagen, Control control) const {
-    const bool atenuada = control == oculta;
-    if (atenuada && opacidad_oculta == 0) return;
-    if (atenuada) pintor.setOpacity(opacidad_oculta);
-    pintor.drawPixmap(Lugar(imagen).topLeft(), Estampa_De(imagen));
-    if (atenuada) pintor.setOpacity(1);
-}
-
-// Chips that lie exactly on others hide them, so the top one tells how many there are.
-void Estuche::Pintar_Cuenta(QPainter& pintor, Integer lugar) const {
-    const Pila& pila = Pila_En(partida, lugar);
-    const bool cafe =
-        lugar == BARRA_CAFE || (Es_Punto(lugar) && Punto_En(partida, lugar).Owner == CAFE);
-    const Arreglo color = cafe ? Arreglo::Cafe : Arreglo::Blanca;
-    const Image* tope = Imagen_De(partida, {color, pila.Tope()});
-    if (tope == nullptr || Control{color, pila.Tope()} == oculta) return;
-    bool tapa = false;
-    for (Integer item = 1; item < pila.Cuenta(); ++item) {
-        const Image* otra = Imagen_De(partida, {color, pila.Ficha(item)});
-        tapa = tapa || (otra->Top == tope->Top && Control{color, pila.Ficha(item)} != oculta);
-    }
-    if (!tapa) return;
-
-    const QRectF ficha = Lugar(*tope);
-    const qreal radio = ficha.height() * 0.27;
-    pintor.setPen(Qt::NoPen);
-    pintor.setBrush(cafe ? QColor(0x2a, 0x16, 0x0d) : QColor(0xf6, 0xee, 0xd8));
-    pintor.drawEllipse(ficha.center(), radio, radio);
-    QFont letra = font();
-    letra.setPixelSize(std::max(1, qRound(ficha.height() * 0.42)));
-    letra.setBold(true);
-    pintor.setFont(letra);
-    pintor.setPen(cafe ? QColor(0xf6, 0xee, 0xd8) : QColor(0x4a, 0x2c, 0x18));
-    pintor.drawText(ficha, Qt::AlignCenter, QString::number(pila.Cuenta()));
 }
 
 // The number moves to another chip of a tall stack when one comes or goes.
@@ -206,6 +96,7 @@ void Estuche::Refrescar_Pila_De(const Image& ficha) {
 
 void Estuche::Refrescar(Control control, const Image& antes) {
     const Image& ahora = *Imagen_De(partida, control);
+    pintura.Cambiar(control);
     update(Lugar(antes).toAlignedRect());
     update(Lugar(ahora).toAlignedRect());
     renovacion.start(0);
@@ -215,20 +106,19 @@ void Estuche::Refrescar(Control control, const Image& antes) {
     Refrescar_Pila_De(antes);
     Refrescar_Pila_De(ahora);
     if (control == soltando) soltando = {};
-    if (control == oculta) flotante.Desaparecer();
-    if (control == oculta) Mostrar_Oculta();
+    if (control == velada.ficha) flotante.Desaparecer();
+    if (control == velada.ficha) Mostrar_Oculta();
     Volar(control, antes);
 }
 
 void Estuche::Ocultar(Control ficha, qreal opacidad) {
     Mostrar_Oculta();
-    oculta = ficha;
-    opacidad_oculta = opacidad;
+    velada = {ficha, opacidad};
     update(Lugar(*Imagen_De(partida, ficha)).toAlignedRect());
 }
 
 void Estuche::Mostrar_Oculta() {
-    const Control antes = std::exchange(oculta, Control{});
+    const Control antes = std::exchange(velada, {}).ficha;
     const Image* imagen = Imagen_De(partida, antes);
     if (imagen != nullptr) update(Lugar(*imagen).toAlignedRect());
 }
@@ -261,7 +151,7 @@ void Estuche::Iniciar_Arrastre(Control ficha) {
     const QPointF agarre =
         pulsado - Lugar(de_la_pulsada != nullptr ? *de_la_pulsada : imagen).topLeft();
     arrastre = Arrastre{ficha, agarre};
-    flotante.Aparecer(Estampa_De(imagen), pos() + pulsado - agarre);
+    flotante.Aparecer(pintura.Estampa_De(imagen), pos() + pulsado - agarre);
     Ocultar(ficha, ATENUADA);
     emit en_la_mano(ficha);
 }
@@ -316,7 +206,7 @@ void Estuche::Devolver() {
     const int milisegundos = Sin_Movimiento() ? 0 : REGRESO;
     flotante.Deslizar(pos() + Lugar(*imagen).topLeft(), milisegundos, [this, ficha] {
         flotante.hide();
-        if (oculta == ficha) Mostrar_Oculta();
+        if (velada.ficha == ficha) Mostrar_Oculta();
     });
 }
 
@@ -351,11 +241,11 @@ void Estuche::Volar(Control ficha, const Image& antes) {
     const int milisegundos = preguntas.vuelo_de(ficha);
     if (milisegundos <= 0 || arrastre || Sin_Movimiento()) return;
     const Image& ahora = *Imagen_De(partida, ficha);
-    flotante.Aparecer(Estampa_De(ahora), pos() + Lugar(antes).topLeft());
+    flotante.Aparecer(pintura.Estampa_De(ahora), pos() + Lugar(antes).topLeft());
     Ocultar(ficha, 0);
     flotante.Deslizar(pos() + Lugar(ahora).topLeft(), milisegundos, [this, ficha] {
         flotante.hide();
-        if (oculta == ficha) Mostrar_Oculta();
+        if (velada.ficha == ficha) Mostrar_Oculta();
     });
 }
 

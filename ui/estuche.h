@@ -10,8 +10,8 @@
 
 #include "core/pantalla.h"
 #include "ui/escala.h"
-#include "ui/estampas.h"
 #include "ui/ficha_flotante.h"
+#include "ui/pintura.h"
 #include "ui/teclado.h"
 
 namespace corvanda {
@@ -61,7 +61,7 @@ class Estuche final : public QWidget, public Pantalla {
     void Interrumpir();
 
     /// Where an image is drawn, logical pixels in this widget.
-    QRectF Lugar(const Image& imagen) const;
+    QRectF Lugar(const Image& imagen) const { return pintura.Lugar(imagen); }
     /// Where a place of the board is, logical pixels in this widget.
     QRect Area(Integer lugar) const;
     /// How thick each line of the keyboard's frame is, logical pixels.
@@ -100,10 +100,6 @@ class Estuche final : public QWidget, public Pantalla {
     };
 
     Control Bajo(QPointF lugar) const;
-    QSize Pixeles_De(const Image& imagen) const;
-    QPixmap Estampa_De(const Image& imagen) const;
-    void Pintar(QPainter& pintor, const Image& imagen, Control control) const;
-    void Pintar_Cuenta(QPainter& pintor, Integer lugar) const;
     void Refrescar_Pila_De(const Image& ficha);
     void Soltar(QPointF lugar);
     void Devolver();
@@ -113,11 +109,10 @@ class Estuche final : public QWidget, public Pantalla {
     void Actualizar_Puntero(QPointF lugar);
     void Renovar_Puntero();
     bool Sin_Movimiento() const;
-    void Preparar_Estampas();
 
     const Partida& partida;
     const Escala escala;
-    Estampas& estampas;
+    Pintura pintura;
     Preguntas preguntas;
     FichaFlotante flotante;
     Teclado teclado{*this};
@@ -126,11 +121,10 @@ class Estuche final : public QWidget, public Pantalla {
     QTimer renovacion;  // of the pointer, once the handler that changed something has ended
 
     std::optional<Arrastre> arrastre;
-    QPointF pulsado;   // where the button went down
-    Control pulsada;   // the chip it went down on
-    Control soltando;  // a chip dropped and not yet seen to have moved
-    Control oculta;    // the chip whose image is dimmed because it is in the air
-    qreal opacidad_oculta = 1;
+    QPointF pulsado;         // where the button went down
+    Control pulsada;         // the chip it went down on
+    Control soltando;        // a chip dropped and not yet seen to have moved
+    Pintura::Velada velada;  // the chip whose image is dimmed because it is in the air
 };
 
 }  // namespace corvanda

@@ -127,9 +127,11 @@ void FrmPrincipal::Form_Load() {
     partida.Dobles = 0;
     juego.Cargar_Controles();
     juego.Ordenar();
+    estuche->hide();  // there is no board to see before it is dressed
     Mostrar_Ventana();
     servicios.Eventos.DoEvents();
     juego.Vestir_Tablero();
+    estuche->show();
     partida.Jugando = False;
     ajustes.Leer(menus, partida);
     partida.Sonido = menus.mnuSonido->isChecked() ? True : False;
