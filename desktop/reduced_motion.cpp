@@ -5,9 +5,10 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusVariant>
 #include <QFile>
 #include <QProxyStyle>
+#include <QStyleFactory>
+#include <utility>
 
 namespace corvanda {
 
@@ -52,14 +53,32 @@ void ReducedMotion::Ask() {
         QDBusMessage::createMethodCall(service, path, settings, QStringLiteral("Read"));
     question << group_asked << key_asked;
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, bus, answer]() mutable {
         const QDBusPendingReply<QDBusVariant> reply = *answer;
-        // The application takes the style over and deletes the one before.
-        if (reply.isValid() && !Unwrapped(QVariant::fromValue(reply.value()))) {
-            QApplication::setStyle(new StillStyle(QApplication::style()->name()));
-        }
         answer->deleteLater();
+        if (!reply.isValid()) return;
+        Answered(QVariant::fromValue(reply.value()));
+        // Named by no service: asking the bus who that is would be waited for.
+        bus.connect({}, path, settings, QStringLiteral("SettingChanged"), this,
+                    SLOT(Changed(QString, QString, QDBusVariant)));
     });
+}
+
+void ReducedMotion::Changed(const QString& group, const QString& key, const QDBusVariant& value) {
+    if (group == group_asked && key == key_asked) Answered(value.variant());
+}
+
+// The application takes the new style over and deletes the one before, which knows no name of its
+// own.
+void ReducedMotion::Answered(const QVariant& animations) {
+    const bool still = !usual.isEmpty();
+    if (Unwrapped(animations) == !still) return;
+    if (still) {
+        QApplication::setStyle(QStyleFactory::create(std::exchange(usual, QString())));
+    } else {
+        usual = QApplication::style()->name();
+        QApplication::setStyle(new StillStyle(usual));
+    }
 }
 
 }  // namespace corvanda

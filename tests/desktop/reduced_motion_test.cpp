@@ -22,7 +22,14 @@ class Portal : public QObject {
         return QDBusVariant(QVariant::fromValue(QDBusVariant(animations)));
     }
 
+  signals:
+    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
   public:
+    void Change(const QString& key, bool value) {
+        emit SettingChanged("org.gnome.desktop.interface", key, QDBusVariant(value));
+    }
+
     bool animations = false;
     QString asked;
 };
@@ -47,15 +54,23 @@ TEST(ReducedMotion, the_style_follows_the_desktop) {
     QDBusConnection bus = QDBusConnection::connectToBus(QString::fromLatin1(address), "portal");
     ASSERT_TRUE(bus.registerService("org.freedesktop.portal.Desktop"));
     ASSERT_TRUE(bus.registerObject("/org/freedesktop/portal/desktop", &portal,
-                                   QDBusConnection::ExportAllSlots));
+                                   QDBusConnection::ExportAllContents));
     const QString usual = QApplication::style()->name();
     for (const bool animations : {true, false}) {
+        SCOPED_TRACE(animations ? "animations" : "none");
         portal.animations = animations;
         portal.asked.clear();
         ReducedMotion motion;
         motion.Ask();
         EXPECT_TRUE(QTest::qWaitFor([&] { return !portal.asked.isEmpty(); }));
         EXPECT_EQ(portal.asked, "org.gnome.desktop.interface enable-animations");
+        QTest::qWait(50);
+        EXPECT_EQ(Duration() > 0, animations);
+        portal.Change("enable-animations", !animations);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (Duration() > 0) == !animations; }));
+        portal.Change("enable-animations", animations);
+        portal.Change("font-antialiasing", !animations);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (Duration() > 0) == animations; }));
         QTest::qWait(50);
         EXPECT_EQ(Duration() > 0, animations);
     }
