@@ -76,7 +76,7 @@ void Juego::Rodar() {
 
     partida.Jugando = True;
     sin_entrada = false;
-    if (partida.Sonido != False) Sonar("click1.Wav");
+    Efecto("click1.Wav");
 }
 
 bool Juego::Le_Toca_A_La_Computadora() const {

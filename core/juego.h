@@ -172,6 +172,9 @@ class Juego {
     void Pasar_Desde_Puntos(Integer mayor, Integer menor);
 
     void Avisar(const std::string& texto, Integer estilo, const std::string& titulo);
+    /// Plays a sound of Sonidos/, if the person wants sounds.
+    void Efecto(const char* archivo);
+    /// Plays it in any case.
     void Sonar(const char* archivo);
 
     Partida& partida;

@@ -15,7 +15,7 @@ void Juego::Mover(Integer Color, Integer Ficha, Integer Destino) {
     }
     const auto distancia = static_cast<Integer>(std::abs(partida.Origen - Destino));
     if (!colocando && !Pagar(distancia)) return;
-    if (!colocando && partida.Sonido != False) Sonar("bounce.Wav");
+    if (!colocando) Efecto("bounce.Wav");
 
     // Counted before the stacks change: the moving chip is still seen at Origen.
     if (Color == BLANCA && Destino >= 18 && partida.Blanca_En_Casa == False) {
@@ -58,7 +58,7 @@ void Juego::Gastar_Dado(Integer cual) {
 
 // The hit: the lone chip on Destino goes to its bar and leaves its place to the one that comes.
 void Juego::Comer(Integer Color, Integer Destino) {
-    if (partida.Sonido != False) Sonar("cannon.Wav");
+    Efecto("cannon.Wav");
     Pila& pila = Pila_En(partida, Destino);
     const Integer comida = pila.Tope();
     const bool es_cafe = Color == BLANCA;

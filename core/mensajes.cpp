@@ -31,6 +31,10 @@ void Juego::Avisar(const std::string& texto, Integer estilo, const std::string& 
     if (!Cerrando()) puertos.Mensajes.MsgBox(texto, estilo, titulo);
 }
 
+void Juego::Efecto(const char* archivo) {
+    if (partida.Sonido != False) Sonar(archivo);
+}
+
 void Juego::Sonar(const char* archivo) {
     if (!Cerrando()) {
         puertos.Sonidos.sndPlaySound(puertos.Programa.Path() + "\\Sonidos\\" + archivo);

@@ -39,6 +39,7 @@ inline constexpr Integer ORIGEN_COLOCACION = -2;  ///< the starting position is 
 inline constexpr Byte DOS_PERSONAS = 0;
 inline constexpr Byte PRINCIPIANTE = 1;
 inline constexpr Byte AVANZADO = 2;
+inline constexpr Byte ULTIMO_NIVEL = AVANZADO;
 
 struct Punto {
     Single Y = 0;       ///< Top of the next chip put on this point

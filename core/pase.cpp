@@ -31,6 +31,8 @@ void Juego::Pasar_Desde_Barra(Integer mayor, Integer menor) {
     if (entra(mayor)) {
         Negar_Pase(texto, mayor);
     } else if (menor == 0 || !entra(menor)) {
+        // The article that is missing here, and the blank in the other question, are part of the
+        // texts.
         Aceptar_Pase(cafe ? "The player with brown chips passed"
                           : "The player with the white chips passed");
     } else {

@@ -35,7 +35,7 @@ void Juego::Adios_DragDrop(Integer Index, Control Source) {
         return;
     }
     Gastar_Dado(dado);
-    if (partida.Sonido != False) Sonar("Pop2.Wav");
+    Efecto("Pop2.Wav");
     Llevar_A_Bandeja(Source.Index);
     Sacar_De_Origen();
     Pila_En(partida, Pila_De_Bandeja(partida.Turno)).Poner(Source.Index);

@@ -166,7 +166,7 @@ class Revision {
                [&] { return std::string("a flag is neither -1 nor 0"); });
         Exigir(partida.Turno >= CAFE && partida.Turno <= BLANCA,
                [&] { return std::string("Turno is no colour"); });
-        Exigir(partida.Nivel <= AVANZADO, [&] { return std::string("Nivel is no level"); });
+        Exigir(partida.Nivel <= ULTIMO_NIVEL, [&] { return std::string("Nivel is no level"); });
         Exigir(partida.Dobles <= 2, [&] { return std::string("Dobles is above 2"); });
         Exigir(partida.Origen >= ORIGEN_BARRA_BLANCA && partida.Origen <= ORIGEN_BARRA_CAFE,
                [&] { return std::string("Origen is no place"); });

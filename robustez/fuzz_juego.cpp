@@ -1,5 +1,5 @@
 // Any sequence of handler calls, also inside the passes of the event loop and inside message boxes,
-// in games of two people and against the computer at both levels. Whatever comes, the position
+// in games of two people and against the computer at every level. Whatever comes, the position
 // keeps its invariants, the computer plays one turn at a time, and a program that closes keeps
 // still.
 #include "bench/mudo.h"
@@ -98,7 +98,7 @@ class Sesion final : public Mudo {
             case 6:
                 return juego.mnuPasar_Click();
             case 7:
-                return juego.Empezar(static_cast<Byte>(entrada.Hasta(3)), dialogo);
+                return juego.Empezar(static_cast<Byte>(entrada.Hasta(ULTIMO_NIVEL + 1)), dialogo);
             case 8:
                 return Ajustar();
             case 9:
@@ -112,7 +112,7 @@ class Sesion final : public Mudo {
         partida.Velocidad = static_cast<Integer>(entrada.Hasta(5) - 1);
         partida.Sonido = entrada.Hasta(2) == 0 ? True : False;
         if (partida.Nivel != DOS_PERSONAS || entrada.Hasta(4) == 0) {
-            partida.Nivel = entrada.Hasta(2) == 0 ? PRINCIPIANTE : AVANZADO;
+            partida.Nivel = static_cast<Byte>(PRINCIPIANTE + entrada.Hasta(ULTIMO_NIVEL));
         }
     }
 

@@ -6,7 +6,7 @@ set -u
 cd "${1:-$(dirname "$0")/..}" || exit 1
 [ -f CMakeLists.txt ] || exit 1
 
-# What each level may include and link of ours; and, of others, what it may name.
+# What each layer may include and link of ours; and, of others, what it may name.
 declare -A propias=(
     [runtime]="runtime"
     [core]="core runtime"
@@ -70,7 +70,7 @@ for capa in "${!propias[@]}"; do
 done
 [ $vistos -gt 0 ] || falta "no include found in $PWD"
 
-# Links: the same rule for what CMake is told, wherever it is told. A target is of the level in whose
+# Links: the same rule for what CMake is told, wherever it is told. A target is of the layer in whose
 # folder it is made.
 llamadas() {  # llamadas FUNCTION: FILE ARGUMENTS, a line for each call
     local archivo

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Synthesises the six sound effects of Corvanda.
+"""Synthesises the sound effects of Corvanda.
 
 This script owns every file in the Sonidos folder: change a sound here and run
 it again, never edit the files by hand.
@@ -8,7 +8,7 @@ it again, never edit the files by hand.
 
 Without a folder it writes into the Sonidos folder beside tools/. Each sound has
 a generator with its own fixed seed, so a second run gives the same bytes and a
-change to one sound leaves the other five alone.
+change to one sound leaves the others alone.
 """
 
 import math

@@ -10,11 +10,10 @@ namespace {
 
 constexpr const char* SECCION = "Config";
 
-/// The mark of a stored level; a name that none has stands for the highest.
-Integer Marca_De(const std::string& guardado) {
-    return std::find_if(NIVELES.begin(), NIVELES.end() - 1,
-                        [&](const Nivel_Del_Menu& cada) { return cada.guardado == guardado; })
-        ->marca;
+Byte Nivel_Guardado(const std::string& nombre) {
+    const auto es = [&](const Nivel_Del_Menu& cada) { return cada.guardado == nombre; };
+    const auto* fila = std::find_if(NIVELES.begin(), NIVELES.end(), es);
+    return fila != NIVELES.end() ? fila->nivel : NIVEL_POR_OTRO_NOMBRE;
 }
 
 }  // namespace
@@ -27,7 +26,8 @@ void Ajustes::Leer(Menus& menus, Módulo1& modulo) const {
         return almacen.GetSetting(aplicacion, SECCION, clave, defecto);
     };
     menus.mnuSonido->setChecked(Val(leer("Sonido", "-1")) != 0);
-    menus.Marcar_Nivel(Marca_De(leer("Nivel", NIVELES.front().guardado)));
+    const std::string nivel = leer("Nivel", NIVELES.front().guardado);
+    menus.Marcar_Nivel(Marca_De(Fila_De(Nivel_Guardado(nivel))));
     modulo.Velocidad = CInt(Val(leer("Velocidad", "100")));
 }
 

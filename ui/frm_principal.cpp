@@ -77,9 +77,10 @@ void FrmPrincipal::Conectar_Menus() {
     conectar(menus.mnuAcerca, &FrmPrincipal::mnuAcerca_Click);
     conectar(menus.mnuSalir, &FrmPrincipal::mnuSalir_Click);
     connect(menus.mnuPasar, &QAction::triggered, this, [this] { juego.mnuPasar_Click(); });
-    for (const Nivel_Del_Menu& cada : NIVELES) {
-        QAction* entrada = menus.mnuLev.at(static_cast<std::size_t>(cada.marca));
-        connect(entrada, &QAction::triggered, this, [this, cada] { mnuLev_Click(cada.marca); });
+    for (std::size_t fila = 0; fila < NIVELES.size(); ++fila) {
+        const Integer marca = Marca_De(fila);
+        QAction* entrada = menus.mnuLev.at(static_cast<std::size_t>(marca));
+        connect(entrada, &QAction::triggered, this, [this, marca] { mnuLev_Click(marca); });
     }
 }
 

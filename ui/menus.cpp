@@ -2,7 +2,6 @@
 
 #include <QKeySequence>
 #include <QMenu>
-#include <algorithm>
 
 namespace corvanda {
 
@@ -15,7 +14,7 @@ QMenu* Menu(QMenuBar& barra, const char* nombre, const char* titulo) {
     return menu;
 }
 
-QAction* Entrada(QMenu* menu, const char* nombre, const char* titulo,
+QAction* Entrada(QMenu* menu, const QString& nombre, const char* titulo,
                  const QKeySequence& atajo = {}) {
     QAction* entrada = menu->addAction(titulo);
     entrada->setObjectName(nombre);
@@ -23,13 +22,13 @@ QAction* Entrada(QMenu* menu, const char* nombre, const char* titulo,
     return entrada;
 }
 
-QAction* Raya(QMenu* menu, const char* nombre) {
+QAction* Raya(QMenu* menu, const QString& nombre) {
     QAction* raya = menu->addSeparator();
     raya->setObjectName(nombre);
     return raya;
 }
 
-QAction* Marca(QMenu* menu, const char* nombre, const char* titulo) {
+QAction* Marca(QMenu* menu, const QString& nombre, const char* titulo) {
     QAction* entrada = Entrada(menu, nombre, titulo);
     entrada->setCheckable(true);
     return entrada;
@@ -59,9 +58,11 @@ void Menus::Hacer_Opciones(QMenuBar& barra) {
     QMenu* niveles = menu->addMenu("Level");
     niveles->setObjectName("mnuLevel");
     niveles->menuAction()->setObjectName("mnuLevel");
-    mnuLev[0] = Marca(niveles, "mnuLev0", "&Beginner");
-    mnuLev[1] = Raya(niveles, "mnuLev1");
-    mnuLev[2] = Marca(niveles, "mnuLev2", "&Advanced");
+    for (std::size_t i = 0; i < mnuLev.size(); ++i) {
+        const QString nombre = QString("mnuLev%1").arg(i);
+        mnuLev[i] =
+            i % 2 == 1 ? Raya(niveles, nombre) : Marca(niveles, nombre, NIVELES[i / 2].titulo);
+    }
     Raya(menu, "eosrkg");
     mnuSonido = Marca(menu, "mnuSonido", "&Sound");
     mnuSonido->setEnabled(false);
@@ -79,15 +80,15 @@ void Menus::Hacer_Ayuda(QMenuBar& barra) {
 }
 
 void Menus::Marcar_Nivel(Integer marca) {
-    for (const Nivel_Del_Menu& cada : NIVELES) {
-        mnuLev.at(static_cast<std::size_t>(cada.marca))->setChecked(cada.marca == marca);
+    for (std::size_t i = 0; i < mnuLev.size(); i += 2) {
+        mnuLev[i]->setChecked(static_cast<Integer>(i) == marca);
     }
 }
 
 const Nivel_Del_Menu& Menus::Nivel_Marcado() const {
-    return *std::find_if(NIVELES.begin(), NIVELES.end() - 1, [this](const Nivel_Del_Menu& cada) {
-        return mnuLev.at(static_cast<std::size_t>(cada.marca))->isChecked();
-    });
+    std::size_t fila = 0;
+    while (fila + 1 < NIVELES.size() && !mnuLev[2 * fila]->isChecked()) ++fila;
+    return NIVELES[fila];
 }
 
 }  // namespace corvanda

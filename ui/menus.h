@@ -1,5 +1,6 @@
-// The menu tree of the main window. Each entry keeps its name from the design; the check marks of
-// the levels and of the sound are state that the settings are read into and saved from.
+// The menu tree of the main window. Each entry and each line has a name of its own by which tests
+// find it. The check marks of the levels and of the sound are state that the settings are read into
+// and saved from.
 #pragma once
 
 #include <QAction>
@@ -18,7 +19,7 @@ class Menus {
     QAction* mnuNew = nullptr;
     QAction* mnuVs = nullptr;
     QAction* mnuPasar = nullptr;
-    std::array<QAction*, 3> mnuLev{};  ///< 0 and 2 are the levels, 1 the line between them
+    std::array<QAction*, 2 * NIVELES.size() - 1> mnuLev{};  ///< by Marca_De; the others are lines
     QAction* mnuSonido = nullptr;
     QAction* mnuVel = nullptr;
     QAction* mnuCont = nullptr;
@@ -26,7 +27,7 @@ class Menus {
     QAction* mnuAcerca = nullptr;
     QAction* mnuSalir = nullptr;
 
-    /// Checks the level with this mark and unchecks the others.
+    /// Checks the level with this Index and unchecks the others.
     void Marcar_Nivel(Integer marca);
     /// The level that is checked.
     const Nivel_Del_Menu& Nivel_Marcado() const;

@@ -72,7 +72,9 @@ class Programa {
     }
     /// Sends a signal and returns the exit status; -1 when it does not end, or not by itself.
     int Terminar(int senal) {
-        ::kill(static_cast<pid_t>(proceso.processId()), senal);
+        // One that has ended has no number, and 0 would be every process around this one.
+        const auto numero = static_cast<pid_t>(proceso.processId());
+        if (numero > 0) ::kill(numero, senal);
         if (proceso.state() != QProcess::NotRunning && !proceso.waitForFinished(PACIENCIA))
             return -1;
         return proceso.exitStatus() == QProcess::NormalExit ? proceso.exitCode() : -1;

@@ -148,7 +148,7 @@ TEST(Validez, Every_Kind_Of_Fault_Is_Named) {
         {"Dado1 shows another face", [](Partida& p) { p.Dado1 = 0; }},
         {"a flag is neither", [](Partida& p) { p.Jugando = 1; }},
         {"Turno is no colour", [](Partida& p) { p.Turno = 2; }},
-        {"Nivel is no level", [](Partida& p) { p.Nivel = 3; }},
+        {"Nivel is no level", [](Partida& p) { p.Nivel = ULTIMO_NIVEL + 1; }},
         {"Dobles is above 2", [](Partida& p) { p.Dobles = 3; }},
         {"Origen is no place", [](Partida& p) { p.Origen = ORIGEN_COLOCACION; }},
     };

@@ -19,6 +19,7 @@ TEST(Ajustes, stored_texts_become_marks_and_speed_and_are_written_back) {
         {"-1", "Principiante", "100", 0, False, "-1", "Principiante", "100"},  // the mark is kept
     };
     for (const auto& fila : tabla) {
+        SCOPED_TRACE(fila.velocidad_despues);
         Ventana v;
         const auto guardar = [&](const char* clave, const char* valor) {
             const std::string aplicacion = v.escritorio.Path() + "\\Corvanda.Ini";

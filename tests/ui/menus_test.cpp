@@ -1,6 +1,9 @@
 // The menu bar, its shortcuts, and what the entries do.
+#include <QDir>
+#include <QFile>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 
 #include "tests/ui/ventana.h"
 
@@ -8,50 +11,82 @@ namespace corvanda::pruebas {
 namespace {
 
 /// The tree in lines: depth, name, caption, shortcut, "off", "mark" and "checked".
-void Escribir(const QWidget& menu, const std::string& sangria, std::vector<std::string>& lineas) {
+void Escribir(const QWidget& menu, const std::string& sangria, std::string& lineas) {
     for (const QAction* entrada : menu.actions()) {
         const std::string atajo = entrada->shortcut().toString().toStdString();
         std::string linea = sangria + entrada->objectName().toStdString() + " ";
         linea += entrada->isSeparator() ? "-" : "[" + entrada->text().toStdString() + "]";
         linea += (atajo.empty() ? "" : " ") + atajo + (entrada->isEnabled() ? "" : " off");
         if (entrada->isCheckable()) linea += entrada->isChecked() ? " checked" : " mark";
-        lineas.push_back(linea);
+        lineas += linea + '\n';
         if (entrada->menu() != nullptr) Escribir(*entrada->menu(), sangria + "  ", lineas);
     }
 }
 
 TEST(Menus, the_tree_is_as_designed_and_no_game_changes_it) {
-    const std::vector<std::string> esperado = {
-        "mnuGame [&Game]",
-        "  mnuNew [vs. &Player] Ctrl+J",
-        "  osd -",
-        "  mnuVs [&vs. Computer] Ctrl+C",
-        "mnuOpciones [&Options]",
-        "  mnuPasar [&Pass] F9",
-        "  ojren -",
-        "  mnuLevel [Level]",
-        "    mnuLev0 [&Beginner] checked",
-        "    mnuLev1 -",
-        "    mnuLev2 [&Advanced] mark",
-        "  eosrkg -",
-        "  mnuSonido [&Sound] checked",
-        "  dfsd -",
-        "  mnuVel [Speed...]",
-        "mnuAyuda [&Help]",
-        "  mnuCont [&Contents        F1]",
-        "  mnuIndice [&Index]",
-        "  wefw -",
-        "  mnuAcerca [About...]",
-        "mnuSalir [E&xit]",
-    };
+    const std::string esperado =
+        "mnuGame [&Game]\n"
+        "  mnuNew [vs. &Player] Ctrl+J\n"
+        "  osd -\n"
+        "  mnuVs [&vs. Computer] Ctrl+C\n"
+        "mnuOpciones [&Options]\n"
+        "  mnuPasar [&Pass] F9\n"
+        "  ojren -\n"
+        "  mnuLevel [Level]\n"
+        "    mnuLev0 [&Beginner] checked\n"
+        "    mnuLev1 -\n"
+        "    mnuLev2 [&Advanced] mark\n"
+        "  eosrkg -\n"
+        "  mnuSonido [&Sound] checked\n"
+        "  dfsd -\n"
+        "  mnuVel [Speed...]\n"
+        "mnuAyuda [&Help]\n"
+        "  mnuCont [&Contents        F1]\n"
+        "  mnuIndice [&Index]\n"
+        "  wefw -\n"
+        "  mnuAcerca [About...]\n"
+        "mnuSalir [E&xit]\n";
     Ventana v;
     for (const char* posicion : {"dice 5 4", "B 23x1 | C 0x1 | dice 6 5"}) {
         v.Poner(posicion);
         v.partida.Jugando = False;
-        std::vector<std::string> lineas;
+        std::string lineas;
         Escribir(*v.frm.menuBar(), "", lineas);
-        EXPECT_EQ(lineas, esperado);
+        EXPECT_EQ(lineas, esperado) << posicion;
     }
+}
+
+/// The captions of a menu and of all below it, as a text names them: "Options > Level".
+void Juntar(const QWidget& menu, const QString& camino, QStringList& titulos) {
+    for (const QAction* entrada : menu.actions()) {
+        const QString titulo =
+            camino + entrada->text().remove('&').remove("...").section("  ", 0, 0);
+        titulos << titulo;
+        if (entrada->menu() != nullptr) Juntar(*entrada->menu(), titulo + " > ", titulos);
+    }
+}
+
+TEST(Menus, what_the_help_and_the_readme_tell_to_choose_can_be_chosen) {
+    const Ventana v;
+    QStringList titulos;
+    Juntar(*v.frm.menuBar(), "", titulos);
+    const QDir fuentes(CORVANDA_FUENTES);
+    QStringList archivos{fuentes.filePath("README.md")};
+    for (const QFileInfo& pagina : QDir(fuentes.filePath("ayuda")).entryInfoList({"*.html"}))
+        archivos << pagina.filePath();
+    int nombradas = 0;
+    for (const QString& nombre : archivos) {
+        QFile archivo(nombre);
+        ASSERT_TRUE(archivo.open(QIODevice::ReadOnly)) << nombre.toStdString();
+        const QString texto = QString::fromUtf8(archivo.readAll()).replace("&gt;", ">");
+        static const QRegularExpression negrita(R"((?:<b>|\*\*)(\w+ > [^<*]+)(?:</b>|\*\*))");
+        for (auto cada = negrita.globalMatch(texto); cada.hasNext(); ++nombradas) {
+            const QString entrada = cada.next().captured(1).simplified();
+            EXPECT_TRUE(titulos.contains(entrada))
+                << nombre.toStdString() << ": " << entrada.toStdString();
+        }
+    }
+    EXPECT_GT(nombradas, 10);
 }
 
 TEST(Menus, a_new_game_by_its_key_and_by_the_menu) {
@@ -67,6 +102,7 @@ TEST(Menus, a_new_game_by_its_key_and_by_the_menu) {
         {{}, "mnuVs", "Principiante", PRINCIPIANTE, "1"},
     };
     for (const auto& fila : tabla) {
+        SCOPED_TRACE(std::string(fila.nivel) + " " + fila.contexto);
         Ventana v;
         const std::string folder = v.escritorio.Path();
         v.escritorio.almacen[{folder + "\\Corvanda.Ini", "Config", "Nivel"}] = fila.nivel;
