@@ -74,6 +74,7 @@ QToolBar* HelpWindow::MakeBar() {
 QWidget* HelpWindow::MakeSide() {
     tabs = new QTabWidget(this);
     tabs->setObjectName(QStringLiteral("HelpTabs"));
+    tabs->setAccessibleName(QStringLiteral("Ways to a page"));
     tabs->addTab(MakeTree(), QStringLiteral("Contents"));
     tabs->addTab(MakeIndex(), QStringLiteral("Index"));
     connect(new QShortcut(Qt::CTRL | Qt::Key_1, this), &QShortcut::activated, this, [this] {

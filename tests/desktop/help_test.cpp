@@ -5,6 +5,7 @@
 
 #include "desktop/help_viewer.h"
 #include "desktop/help_window.h"
+#include "tests/apoyo/sin_nombre.h"
 #include "tests/desktop/desk.h"
 
 namespace corvanda::pruebas {
@@ -122,6 +123,7 @@ TEST_F(HelpTest, each_request_shows_its_page_in_the_same_window) {
         EXPECT_EQ(Topic(), row.topic) << row.command << ' ' << row.context;
         EXPECT_EQ(Part<QTabWidget>("HelpTabs")->currentIndex(), row.tab) << row.command;
         EXPECT_EQ(Part<QLineEdit>("HelpFilter")->hasFocus(), row.command == help::Key);
+        EXPECT_EQ(Sin_Nombre(Window()), "");
         if (row.context == 1) Press(Qt::Key_Escape);
         if (row.tab == 1) Window().showMinimized();
     }

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "tests/apoyo/sin_nombre.h"
 #include "tests/ui/ventana.h"
 
 namespace corvanda::pruebas {
@@ -50,6 +51,7 @@ TEST(Volado, between_two_people_each_press_is_one_throw) {
         for (const double azar : fila.azares) v.escritorio.Azares({azar});
         v.vigilante.Esperar([&](QWidget& dialogo) {
             EXPECT_EQ(dialogo.windowTitle(), "Player to Start");
+            EXPECT_EQ(Sin_Nombre(dialogo), "");
             EXPECT_EQ(Vista(dialogo), "&White Chips - - ");
             for (const std::string& vista : fila.vistas) {
                 QTest::mouseClick(&Hallar<QPushButton>(dialogo, "Btn"), Qt::LeftButton);
@@ -120,6 +122,7 @@ TEST(Velocidad, nothing_can_be_decided_before_the_chip_has_crossed_and_only_ok_c
         v.partida.Velocidad = fila.antes;
         v.vigilante.Esperar([&](QWidget& dialogo) {
             EXPECT_EQ(dialogo.windowTitle(), "Game Speed...");
+            EXPECT_EQ(Sin_Nombre(dialogo), "");
             auto& texto = Hallar<QLineEdit>(dialogo, "TxtVel");
             EXPECT_EQ(texto.text(), fila.texto);
             for (const auto tecla : {Qt::Key_Escape, Qt::Key_Return})

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 
+#include "tests/apoyo/sin_nombre.h"
 #include "tests/ui/ventana.h"
 
 namespace corvanda::pruebas {
@@ -58,6 +59,7 @@ TEST_F(AcercaTest, opens_the_film_restarts_it_when_it_stopped_and_closes_it_once
     const auto manija = std::to_string(reinterpret_cast<std::uintptr_t>(De("Picture1")));
     EXPECT_EQ(cine.Leer(), (Diario{"Open A Wait", "Window A handle  " + manija,
                                    "Put A destination at 0 0 200 150"}));
+    EXPECT_EQ(Sin_Nombre(ventana), "");
     for (const char* estado : {"stopped", "Seeking", "s", "playing", "paused", " stopped", ""}) {
         const bool parada = std::toupper(estado[0]) == 'S';
         cine.estado = estado;
