@@ -1,76 +1,11 @@
 """The client of lector.sh: a screen reader that writes down what it would say."""
 
-import subprocess
-import sys
-import time
-
-import gi
-
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
-
-oido = []
-
-
-def oir(suceso):
-    try:
-        nombre = suceso.source.get_name()
-        papel = suceso.source.get_role_name()
-    except GLib.GError:  # it is gone already
-        return
-    if suceso.type == "object:state-changed:focused" and suceso.detail1:
-        oido.append("focus " + nombre)
-    elif suceso.type.startswith("object:property-change:accessible-name") and papel != "notification":
-        oido.append("name " + nombre)
-    elif suceso.type == "object:state-changed:showing" and papel == "notification":
-        oido.append("says " + nombre)
-
-
-def pasar(segundos):
-    fin = time.monotonic() + segundos
-    while time.monotonic() < fin:
-        while GLib.MainContext.default().iteration(False):
-            pass
-        time.sleep(0.01)
-
-
-def esperar(que, como):
-    for _ in range(300):
-        hallado = como()
-        if hallado:
-            return hallado
-        pasar(0.05)
-    sys.exit(f"lector: waited in vain for {que}; heard {oido}")
-
-
-def buscar(de, papel, nombre):
-    if de is None:
-        return None
-    if de.get_role_name() == papel and de.get_name().startswith(nombre):
-        return de
-    for i in range(de.get_child_count()):
-        hallado = buscar(de.get_child_at_index(i), papel, nombre)
-        if hallado:
-            return hallado
-    return None
-
-
-def programa():
-    escritorio = Atspi.get_desktop(0)
-    for i in range(escritorio.get_child_count()):
-        if escritorio.get_child_at_index(i).get_name().lower() == "corvanda":
-            return escritorio.get_child_at_index(i)
-    return None
-
-
-def teclas(*nombres):
-    subprocess.run(["xdotool", "key", "--delay", "60", *nombres], check=True)
-    pasar(0.4)
+import accesible
+from accesible import Atspi, buscar, esperar, hijos, oido, pasar, programa, teclas
 
 
 def debe(condicion, que):
-    if not condicion:
-        sys.exit(f"lector: {que}; heard {oido}")
+    accesible.debe(condicion, que)
     print("ok:", que)
 
 
@@ -78,13 +13,13 @@ def dice(comienzo):
     return any(suceso.startswith(comienzo) for suceso in oido)
 
 
-for tipo in ("object:state-changed:focused", "object:property-change:accessible-name",
-             "object:state-changed:showing"):
-    Atspi.EventListener.new(oir).register(tipo)
+accesible.escuchar()
 esperar("the program on the bus", programa)
+esperar("the start-up screen", lambda: hijos(programa()))
+pasar(1)
 teclas("space")  # the start-up screen goes
 tablero = esperar("the board", lambda: buscar(programa(), "panel", "Board"))
-partes = [tablero.get_child_at_index(i) for i in range(tablero.get_child_count())]
+partes = hijos(tablero)
 nombres = [parte.get_name() for parte in partes]
 debe(len(partes) == 30, "the board has 30 parts")
 debe(nombres[5] == "Point 6, 5 brown chips", "a point tells its number and its chips")

@@ -79,8 +79,6 @@ void Form1::Poner_Controles() {
     Scroll->setRange(MAS_RAPIDA, MAS_LENTA);
     Scroll->setSingleStep(PASO_CHICO);
     Scroll->setPageStep(PASO_GRANDE);
-    // As the toolkit makes them, scroll bars go left at the right arrow key.
-    Scroll->setInvertedControls(false);
     Scroll->setFocusPolicy(Qt::StrongFocus);
     Scroll->setGeometry(escala.Lugar(1200, 1440, 1215, 255));
     Scroll->setAccessibleName("Machine speed, 1 fast to 200 slow");
@@ -117,10 +115,20 @@ void Form1::BtnAceptar_Click() {
 }
 
 // Many styles draw a bar with the focus like one without, so a line is drawn below it here. There
-// is no room for one at its sides.
+// is no room for one at its sides. As the toolkit makes them, bars go left at the right arrow key.
 bool Form1::eventFilter(QObject* objeto, QEvent* evento) {
     const auto tipo = evento->type();
     if (tipo == QEvent::FocusIn || tipo == QEvent::FocusOut) update();
+    if (tipo == QEvent::KeyPress) {
+        const int tecla = static_cast<QKeyEvent*>(evento)->key();
+        const auto paso = tecla == Qt::Key_Left    ? QScrollBar::SliderSingleStepSub
+                          : tecla == Qt::Key_Right ? QScrollBar::SliderSingleStepAdd
+                                                   : QScrollBar::SliderNoAction;
+        if (paso != QScrollBar::SliderNoAction) {
+            Scroll->triggerAction(paso);
+            return true;
+        }
+    }
     return QDialog::eventFilter(objeto, evento);
 }
 

@@ -119,7 +119,9 @@ QString Descripcion(Integer lugar) {
 
 QString Nombre_De_Dado(const Partida& partida, Integer cual) {
     const QString lado = cual == 0 ? "Left die: " : "Right die: ";
-    if (!partida.Dado.at(static_cast<std::size_t>(cual)).Visible) return lado + "played";
+    if (!partida.Dado.at(static_cast<std::size_t>(cual)).Visible) {
+        return lado + (partida.Turno == NADIE ? "not thrown" : "played");
+    }
     const QString valor = QString::number(cual == 0 ? partida.Dado1 : partida.Dado2);
     if (cual != 0 || partida.Dobles == 0) return lado + valor;
     return lado + valor + QString(", for %1 moves").arg(partida.Dobles + 1);

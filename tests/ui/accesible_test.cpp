@@ -53,6 +53,9 @@ TEST(Accesible, Each_Place_And_Die_Says_What_It_Is) {
         EXPECT_EQ(parte->text(QAccessible::Name) + " | " + parte->text(QAccessible::Description),
                   esperado);
     }
+    v.partida.Turno = NADIE;  // as before the first game
+    EXPECT_EQ(Accesible_De(v.tablero)->child(29)->text(QAccessible::Name),
+              QString("Right die: not thrown"));
 }
 
 TEST(Accesible, The_Parts_Are_Found_And_Tell_Their_State_And_Play_But_Never_Round_A_Box) {

@@ -112,6 +112,9 @@ TEST(Velocidad, nothing_can_be_decided_before_the_chip_has_crossed_and_only_ok_c
     } tabla[] = {
         {100, " 100", {Qt::Key_Home, Qt::Key_Return}, 1},
         {100, " 100", {Qt::Key_Right, Qt::Key_Escape}, 100},
+        // What points left or up goes towards the fast end.
+        {100, " 100", {Qt::Key_PageUp, Qt::Key_Up, Qt::Key_Left, Qt::Key_Return}, 78},
+        {100, " 100", {Qt::Key_PageDown, Qt::Key_Down, Qt::Key_Right, Qt::Key_Return}, 122},
         {1, " 1", {Qt::Key_End, Qt::Key_Enter}, 200},
         {0, " 1", {Qt::Key_Escape}, 0},
         {32767, " 200", {Qt::Key_Return}, 200},
