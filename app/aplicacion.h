@@ -15,6 +15,7 @@
 #include "desktop/program_folder.h"
 #include "desktop/reduced_motion.h"
 #include "desktop/settings_file.h"
+#include "desktop/steady_windows.h"
 #include "desktop/system_close.h"
 #include "desktop/wave_player.h"
 #include "ui/escala.h"
@@ -59,6 +60,7 @@ class Aplicacion final : public QObject {
     QtMediaControl medios;
     SystemClose sistema;
     ReducedMotion calma;
+    SteadyWindows ventanas;
     Integer veces = 0;  // ticks of all showings of the start-up screen
     std::unique_ptr<FrmPrincipal> principal;
     std::unique_ptr<FrmAbout> inicio;

@@ -64,8 +64,21 @@ void HelpBrowser::Follow(const QUrl& link) {
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     if (!IsInside(name)) return {};
     const QString inside = NameIn(name);
-    if (type == QTextDocument::ImageResource) return Picture(inside);
-    return help.ReadText(inside);
+    if (type != QTextDocument::ImageResource) return help.ReadText(inside);
+    drawn.insert(name);
+    return Picture(inside);
+}
+
+// The window may have come to another screen.
+void HelpBrowser::paintEvent(QPaintEvent* event) {
+    if (devicePixelRatioF() != drawn_for) DrawPicturesAnew();
+    QTextBrowser::paintEvent(event);
+}
+
+void HelpBrowser::DrawPicturesAnew() {
+    drawn_for = devicePixelRatioF();
+    for (const QUrl& each : drawn)
+        document()->addResource(QTextDocument::ImageResource, each, Picture(NameIn(each)));
 }
 
 QPixmap HelpBrowser::Picture(const QString& name) const {

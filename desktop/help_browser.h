@@ -5,7 +5,9 @@
 // for each pixel of their place on an ordinary screen, and are scaled for the screen they are on.
 #pragma once
 
+#include <QSet>
 #include <QTextBrowser>
+#include <QUrl>
 
 #include "desktop/help_file.h"
 
@@ -26,11 +28,17 @@ class HelpBrowser final : public QTextBrowser {
     /// Answers for topics and pictures of the help file only.
     QVariant loadResource(int type, const QUrl& name) override;
 
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
   private:
     void Follow(const QUrl& link);
+    void DrawPicturesAnew();
     QPixmap Picture(const QString& name) const;
 
     const HelpFile& help;
+    QSet<QUrl> drawn;                       // all pictures so far
+    qreal drawn_for = devicePixelRatioF();  // what they were scaled for
 };
 
 }  // namespace corvanda

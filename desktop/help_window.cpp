@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
@@ -11,12 +12,14 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 
 namespace corvanda {
 
 namespace {
 
 constexpr QSize usual_size(960, 700);
+constexpr int usual_line = 20;  // the largest height of a line at which that is enough
 constexpr int side_width = 260;
 constexpr int address_role = Qt::UserRole;
 constexpr int contents_tab = 0;
@@ -33,7 +36,6 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file, const QString& title)
     split->addWidget(MakeSide());
     split->addWidget(page);
     split->setStretchFactor(1, 1);
-    split->setSizes({side_width, usual_size.width() - side_width});
     split->setChildrenCollapsible(false);
 
     auto* layout = new QVBoxLayout(this);
@@ -43,7 +45,10 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file, const QString& title)
     layout->addWidget(split, 1);
     connect(page, &QTextBrowser::sourceChanged, this, &HelpWindow::MarkInTree);
     const QRect usable = screen()->availableGeometry();
-    resize(usual_size.boundedTo(usable.size() * 0.9));
+    const double larger = std::max(1.0, static_cast<double>(fontMetrics().height()) / usual_line);
+    resize((usual_size * larger).boundedTo(usable.size() * 0.9));
+    const int side = std::clamp(SideWidth(), side_width, std::max(side_width, width() * 2 / 5));
+    split->setSizes({side, width() - side});
     // By its frame, so that the title does not end above the screen.
     move(usable.center().x() - width() / 2, usable.top() + (usable.height() - height()) / 3);
 }
@@ -101,6 +106,9 @@ QTreeWidget* HelpWindow::MakeTree() {
         above.push_back(item);
     }
     tree->expandAll();
+    // Where a title is wider than the list, the list can be scrolled.
+    tree->resizeColumnToContents(0);
+    tree->header()->setMinimumSectionSize(tree->columnWidth(0));
     const auto open = [this](QTreeWidgetItem* item) {
         if (item != nullptr) page->Show(item->data(0, address_role).toString());
     };
@@ -108,6 +116,13 @@ QTreeWidget* HelpWindow::MakeTree() {
     connect(tree, &QTreeWidget::itemClicked, this, open);
     connect(tree, &QTreeWidget::itemActivated, this, open);
     return tree;
+}
+
+// What the contents need to be seen in full.
+int HelpWindow::SideWidth() const {
+    const int frames = 4 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    return tree->header()->minimumSectionSize() + style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
+           frames;
 }
 
 QWidget* HelpWindow::MakeIndex() {

@@ -42,6 +42,7 @@ class HelpWindow final : public QDialog {
     QToolBar* MakeBar();
     QWidget* MakeSide();
     QTreeWidget* MakeTree();
+    int SideWidth() const;
     QWidget* MakeIndex();
     void Narrow(const QString& part);
     void OpenFirstKeyword();

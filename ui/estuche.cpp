@@ -1,5 +1,6 @@
 #include "ui/estuche.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -36,6 +37,7 @@ Estuche::Estuche(const Partida& partida, const Escala& escala, Estampas& estampa
     : QWidget(fondo),
       partida(partida),
       escala(escala),
+      estampas(estampas),
       pintura(partida, this->escala, estampas, *this),
       flotante(fondo) {
     // Before anything is told of this widget, or it would be described as any other.
@@ -48,13 +50,27 @@ Estuche::Estuche(const Partida& partida, const Escala& escala, Estampas& estampa
     setAccessibleDescription(
         "The arrow keys choose a place, Space picks up a chip or drops it, Escape puts it back.");
     setFixedSize(escala.Tamano(ANCHO, ALTO));
-    const int lado = qRound(20 * escala.K());
-    const QPixmap dibujo = estampas.Suelta("mano", lado, devicePixelRatioF());
-    mano = dibujo.isNull() ? QCursor(Qt::OpenHandCursor)
-                           : QCursor(dibujo, lado * 16 / 32, lado * 18 / 32);
     renovacion.setSingleShot(true);
     connect(&renovacion, &QTimer::timeout, this, &Estuche::Renovar_Puntero);
+    Prepararse();
+}
+
+// At the start, and whenever the board comes to a screen with other pixels.
+void Estuche::Prepararse() {
+    preparada = devicePixelRatioF();
+    mano = Hacer_Mano();
     pintura.Preparar();
+    renovacion.start(0);
+}
+
+QCursor Estuche::Hacer_Mano() const {
+    const int lado = qRound(20 * escala.K());
+    const QPixmap dibujo = estampas.Suelta("mano", lado, preparada);
+    if (dibujo.isNull()) return Qt::OpenHandCursor;
+    // On X11 the toolkit hands the hot spot on as it is, to where it counts the picture's pixels.
+    const bool en_pixeles = QGuiApplication::platformName() == "xcb";
+    const double paso = lado * (en_pixeles ? preparada : 1) / 32;
+    return QCursor(dibujo, qRound(16 * paso), qRound(18 * paso));
 }
 
 QRect Estuche::Area(Integer lugar) const {
@@ -66,6 +82,11 @@ int Estuche::Grueso() const {
     return std::max(2, qRound(escala.Pixeles(30)));
 }
 
+// Asked for at each painting, because the chip may come to another screen on its way.
+FichaFlotante::Estampa Estuche::En_El_Aire(const Image& imagen) const {
+    return [this, imagen] { return pintura.Estampa_De(imagen); };
+}
+
 Control Estuche::Bajo(QPointF lugar) const {
     return Control_En(partida, static_cast<Single>(escala.Twips(lugar.x())),
                       static_cast<Single>(escala.Twips(lugar.y())));
@@ -74,6 +95,7 @@ Control Estuche::Bajo(QPointF lugar) const {
 // Painting
 
 void Estuche::paintEvent(QPaintEvent* evento) {
+    if (devicePixelRatioF() != preparada) Prepararse();
     QPainter pintor(this);
     pintor.setClipRegion(evento->region());
     pintura.Pintar(pintor, evento->rect(), velada);
@@ -135,6 +157,11 @@ void Estuche::hideEvent(QHideEvent* evento) {
     QWidget::hideEvent(evento);
 }
 
+// A chip in the air lies beside the case, not on it, and goes where the case goes.
+void Estuche::moveEvent(QMoveEvent* evento) {
+    flotante.Acompanar(evento->pos() - evento->oldPos());
+}
+
 void Estuche::mousePressEvent(QMouseEvent* evento) {
     if (teclado.A_La_Vista()) Cancelar_Arrastre();
     if (arrastre) return;
@@ -151,7 +178,7 @@ void Estuche::Iniciar_Arrastre(Control ficha) {
     const QPointF agarre =
         pulsado - Lugar(de_la_pulsada != nullptr ? *de_la_pulsada : imagen).topLeft();
     arrastre = Arrastre{ficha, agarre};
-    flotante.Aparecer(pintura.Estampa_De(imagen), pos() + pulsado - agarre);
+    flotante.Aparecer(En_El_Aire(imagen), pos() + pulsado - agarre);
     Ocultar(ficha, ATENUADA);
     emit en_la_mano(ficha);
 }
@@ -241,7 +268,7 @@ void Estuche::Volar(Control ficha, const Image& antes) {
     const int milisegundos = preguntas.vuelo_de(ficha);
     if (milisegundos <= 0 || arrastre || Sin_Movimiento()) return;
     const Image& ahora = *Imagen_De(partida, ficha);
-    flotante.Aparecer(pintura.Estampa_De(ahora), pos() + Lugar(antes).topLeft());
+    flotante.Aparecer(En_El_Aire(ahora), pos() + Lugar(antes).topLeft());
     Ocultar(ficha, 0);
     flotante.Deslizar(pos() + Lugar(ahora).topLeft(), milisegundos, [this, ficha] {
         flotante.hide();

@@ -88,6 +88,7 @@ class Estuche final : public QWidget, public Pantalla {
     void focusOutEvent(QFocusEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void hideEvent(QHideEvent* evento) override;
+    void moveEvent(QMoveEvent* evento) override;
     void paintEvent(QPaintEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
     void mouseMoveEvent(QMouseEvent* evento) override;
@@ -100,6 +101,7 @@ class Estuche final : public QWidget, public Pantalla {
     };
 
     Control Bajo(QPointF lugar) const;
+    FichaFlotante::Estampa En_El_Aire(const Image& imagen) const;
     void Refrescar_Pila_De(const Image& ficha);
     void Soltar(QPointF lugar);
     void Devolver();
@@ -109,14 +111,18 @@ class Estuche final : public QWidget, public Pantalla {
     void Actualizar_Puntero(QPointF lugar);
     void Renovar_Puntero();
     bool Sin_Movimiento() const;
+    void Prepararse();
+    QCursor Hacer_Mano() const;
 
     const Partida& partida;
     const Escala escala;
+    Estampas& estampas;
     Pintura pintura;
     Preguntas preguntas;
     FichaFlotante flotante;
     Teclado teclado{*this};
     QCursor mano;
+    qreal preparada = 0;  // the device pixel ratio that the hand and the pictures were made for
 
     QTimer renovacion;  // of the pointer, once the handler that changed something has ended
 

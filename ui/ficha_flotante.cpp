@@ -24,10 +24,10 @@ FichaFlotante::FichaFlotante(QWidget* fondo) : QWidget(fondo) {
     hide();
 }
 
-void FichaFlotante::Aparecer(const QPixmap& nueva, QPointF esquina) {
+void FichaFlotante::Aparecer(Estampa nueva, QPointF esquina) {
     Desaparecer();
-    estampa = nueva;
-    const QSizeF tamano = estampa.deviceIndependentSize();
+    estampa = std::move(nueva);
+    const QSizeF tamano = estampa().deviceIndependentSize();
     resize(static_cast<int>(std::ceil(tamano.width())) + 2 * SOMBRA + 1,
            static_cast<int>(std::ceil(tamano.height())) + 2 * SOMBRA + 1);
     Llevar(esquina);
@@ -38,14 +38,22 @@ void FichaFlotante::Aparecer(const QPixmap& nueva, QPointF esquina) {
 void FichaFlotante::Llevar(QPointF esquina) {
     lugar = esquina;
     const QPointF marco = esquina - QPointF(SOMBRA, SOMBRA);
-    const QPoint entero(static_cast<int>(std::floor(marco.x())),
-                        static_cast<int>(std::floor(marco.y())));
-    // The chip stands on whole device pixels, or it would blur.
+    move(static_cast<int>(std::floor(marco.x())), static_cast<int>(std::floor(marco.y())));
+    if (Resto() != resto) update();
+}
+
+// The part of the place that is smaller than a logical pixel. The chip stands on whole device
+// pixels, or it would blur.
+QPointF FichaFlotante::Resto() const {
     const qreal ratio = devicePixelRatioF();
-    const QPointF fraccion = (marco - entero) * ratio;
-    const QPointF nuevo(std::round(fraccion.x()) / ratio, std::round(fraccion.y()) / ratio);
-    move(entero);
-    if (nuevo != std::exchange(resto, nuevo)) update();
+    const QPointF fraccion = (lugar - QPointF(SOMBRA, SOMBRA) - pos()) * ratio;
+    return {std::round(fraccion.x()) / ratio, std::round(fraccion.y()) / ratio};
+}
+
+void FichaFlotante::Acompanar(QPointF paso) {
+    if (!Deslizandose()) return Llevar(lugar + paso);
+    vuelo.setStartValue(vuelo.startValue().toPointF() + paso);
+    vuelo.setEndValue(vuelo.endValue().toPointF() + paso);
 }
 
 void FichaFlotante::Deslizar(QPointF esquina, int milisegundos, std::function<void()> al_llegar) {
@@ -73,8 +81,10 @@ void FichaFlotante::Llegar() {
 
 void FichaFlotante::paintEvent(QPaintEvent* /*evento*/) {
     QPainter pintor(this);
+    resto = Resto();
     const QPointF esquina = QPointF(SOMBRA, SOMBRA) + resto;
-    const QSizeF tamano = estampa.deviceIndependentSize();
+    const QPixmap ficha = estampa();
+    const QSizeF tamano = ficha.deviceIndependentSize();
     const QPointF centro(esquina.x() + tamano.width() / 2 + 2,
                          esquina.y() + tamano.height() / 2 + 3);
     const qreal radio = tamano.width() / 2 + 4;
@@ -85,7 +95,7 @@ void FichaFlotante::paintEvent(QPaintEvent* /*evento*/) {
     pintor.setPen(Qt::NoPen);
     pintor.setBrush(sombra);
     pintor.drawEllipse(centro, radio, radio);
-    pintor.drawPixmap(esquina, estampa);
+    pintor.drawPixmap(esquina, ficha);
 }
 
 }  // namespace corvanda

@@ -17,9 +17,14 @@ class FichaFlotante final : public QWidget {
     /// Lies on `fondo` and may go anywhere on it.
     explicit FichaFlotante(QWidget* fondo);
 
+    /// The chip for the screen that it is on now, which may change while it is in the air.
+    using Estampa = std::function<QPixmap()>;
+
     /// Shows the chip with its top left corner at a place of `fondo`.
-    void Aparecer(const QPixmap& estampa, QPointF esquina);
+    void Aparecer(Estampa nueva, QPointF esquina);
     void Llevar(QPointF esquina);
+    /// What it lies over has moved, and its way with it.
+    void Acompanar(QPointF paso);
     /// Glides to a place and tells; 0 milliseconds or less is at once.
     void Deslizar(QPointF esquina, int milisegundos, std::function<void()> al_llegar);
     /// Vanishes; a glide under way tells at once.
@@ -31,9 +36,10 @@ class FichaFlotante final : public QWidget {
 
   private:
     void Llegar();
+    QPointF Resto() const;
 
-    QPixmap estampa;
-    QPointF resto;  // the part of the place that is smaller than a logical pixel
+    Estampa estampa;
+    QPointF resto;  // as it was painted last
     QPointF lugar;
     QVariantAnimation vuelo;
     std::function<void()> aviso;

@@ -25,19 +25,10 @@ const QColor AZUL_OSCURO(0, 0, 0x80);
 }  // namespace
 
 Form1::Form1(QWidget* ventana, Módulo1& modulo, const Escala& escala, Estampas& estampas)
-    : QDialog(ventana), modulo(modulo), escala(escala) {
+    : QDialog(ventana), modulo(modulo), escala(escala), estampas(estampas) {
     setObjectName("Form1");
     setWindowTitle("Game Speed...");
     dialogos::Preparar(*this, escala, 4770, 1815);
-    const int lado = qRound(escala.Pixeles(LADO));
-    const qreal ratio = devicePixelRatioF();
-    const auto ficha = [&](const char* nombre) {
-        const QPixmap suelta = estampas.Suelta(nombre, lado, ratio);
-        return suelta.isNull() ? estampas.De(Picture::Cafe, QSize(lado, lado) * ratio, ratio)
-                               : suelta;
-    };
-    con_estela = ficha("cafe_estela");
-    quieta = ficha("cafe_dialogo");
     Poner_Textos();
     Poner_Controles();
 
@@ -48,6 +39,15 @@ Form1::Form1(QWidget* ventana, Módulo1& modulo, const Escala& escala, Estampas&
     connect(BtnCancelar, &QPushButton::clicked, this, &QDialog::reject);
     connect(&Timer1, &QTimer::timeout, this, &Form1::Timer1_Timer);
     Timer1.start(ESPERA);
+}
+
+Cuadro::Dibujo Form1::Ficha(const char* nombre) const {
+    return [this, nombre](qreal ratio) {
+        const int lado = qRound(escala.Pixeles(LADO));
+        const QPixmap suelta = estampas.Suelta(nombre, lado, ratio);
+        return suelta.isNull() ? estampas.De(Picture::Cafe, QSize(lado, lado) * ratio, ratio)
+                               : suelta;
+    };
 }
 
 void Form1::Poner_Textos() {
@@ -61,8 +61,8 @@ void Form1::Poner_Textos() {
     poner("Label1", "Machine speed :", {840, 480, 1935, 495}, Qt::AlignHCenter);
     poner("Label2", "1=Fast", {120, 1440, 1095, 255}, Qt::AlignRight);
     poner("Label3", "200=Slow", {2520, 1440, 1095, 255}, Qt::AlignLeft);
-    Image3 = dialogos::Texto(*this, "Image3", {}, {3840, 0, LADO, LADO}, escala, letra);
-    Image3->setPixmap(quieta);
+    Image3 = new Cuadro(this, "Image3", escala.Lugar(3840, 0, LADO, LADO));
+    Image3->Mostrar(Ficha("cafe_dialogo"));
     Image3->setAccessibleName("Picture of a brown chip");
 }
 
@@ -98,14 +98,14 @@ void Form1::Scroll_Change() {
 // The chip slides without any event being handled, so the buttons cannot be pressed meanwhile.
 void Form1::Timer1_Timer() {
     Timer1.stop();
-    Image3->setPixmap(con_estela);
+    Image3->Mostrar(Ficha("cafe_estela"));
     const QSize tamano = Image3->size();
     for (int x = 3840; x >= 100; x -= 50) {
         Image3->setGeometry(QRect(escala.Lugar(x, 0, LADO, LADO).topLeft(), tamano));
         repaint();
         QThread::msleep(1);
     }
-    Image3->setPixmap(quieta);
+    Image3->Mostrar(Ficha("cafe_dialogo"));
     for (QPushButton* boton : {BtnAceptar, BtnCancelar}) boton->setEnabled(true);
 }
 

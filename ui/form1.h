@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include "core/partida.h"
+#include "ui/cuadro.h"
 #include "ui/escala.h"
 #include "ui/estampas.h"
 
@@ -29,6 +30,7 @@ class Form1 final : public QDialog {
     void paintEvent(QPaintEvent* evento) override;
 
   private:
+    Cuadro::Dibujo Ficha(const char* nombre) const;
     void Poner_Textos();
     void Poner_Controles();
     void Scroll_Change();
@@ -37,13 +39,12 @@ class Form1 final : public QDialog {
 
     Módulo1& modulo;
     const Escala& escala;
-    QPixmap con_estela;
-    QPixmap quieta;
+    Estampas& estampas;
     QLineEdit* TxtVel = nullptr;
     QScrollBar* Scroll = nullptr;
     QPushButton* BtnAceptar = nullptr;
     QPushButton* BtnCancelar = nullptr;
-    QLabel* Image3 = nullptr;
+    Cuadro* Image3 = nullptr;
     QTimer Timer1;
 };
 

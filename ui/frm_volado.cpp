@@ -34,8 +34,8 @@ FrmVolado::FrmVolado(QWidget* ventana, Módulo1& modulo, RandomNumbers& azar, co
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     Preparar(*this, escala, 3135, 2220);
     const QFont fina = escala.Letra(8.25, true);
-    Image1 = Texto(*this, "Image1", {}, {540, 120, 480, 480}, escala, fina);
-    Image2 = Texto(*this, "Image2", {}, {2100, 120, 480, 480}, escala, fina);
+    Image1 = new Cuadro(this, "Image1", escala.Lugar(540, 120, 480, 480));
+    Image2 = new Cuadro(this, "Image2", escala.Lugar(2100, 120, 480, 480));
     QLabel* blanca = Texto(*this, "Label2", "Player 1", {60, 720, 1455, 255}, escala, fina);
     QLabel* cafe = Texto(*this, "Label3", "Player 2", {1740, 720, 1335, 255}, escala, fina);
     Label1 = Texto(*this, "Label1", {}, {360, 1020, 2415, 735}, escala, escala.Letra(9.75, true));
@@ -43,7 +43,7 @@ FrmVolado::FrmVolado(QWidget* ventana, Módulo1& modulo, RandomNumbers& azar, co
 
     voz = new Voz(this);
 
-    for (QLabel* imagen : {Image1, Image2}) imagen->setAccessibleName("Die: not thrown");
+    for (Cuadro* imagen : {Image1, Image2}) imagen->setAccessibleName("Die: not thrown");
     Image1->setAccessibleDescription("White's die");
     Image2->setAccessibleDescription("Brown's die");
     Label1->setAccessibleDescription("Who starts");
@@ -77,11 +77,12 @@ void FrmVolado::Btn_Click() {
     }
 }
 
-Byte FrmVolado::Tirar(QLabel* imagen, const char* bando) {
+Byte FrmVolado::Tirar(Cuadro* imagen, const char* bando) {
     const Byte tiro = CByte(azar.Rnd() * 5);
     const auto cara = static_cast<Picture>(static_cast<int>(Picture::Dado1) + tiro);
-    const qreal ratio = devicePixelRatioF();
-    imagen->setPixmap(estampas.De(cara, imagen->size() * ratio, ratio));
+    imagen->Mostrar([this, cara, tamano = imagen->size()](qreal ratio) {
+        return estampas.De(cara, tamano * ratio, ratio);
+    });
     imagen->setAccessibleName(QString("Die: %1").arg(tiro + 1));
     voz->Decir(QString("%1 throws %2.").arg(bando).arg(tiro + 1));
     return tiro;

@@ -9,6 +9,7 @@
 
 #include "core/partida.h"
 #include "runtime/ports.h"
+#include "ui/cuadro.h"
 #include "ui/escala.h"
 #include "ui/estampas.h"
 #include "ui/voz.h"
@@ -31,7 +32,7 @@ class FrmVolado final : public QDialog {
 
   private:
     void Form_Load();
-    Byte Tirar(QLabel* imagen, const char* bando);
+    Byte Tirar(Cuadro* imagen, const char* bando);
     void Tirar_Cafe();
     void Decidir();
 
@@ -41,8 +42,8 @@ class FrmVolado final : public QDialog {
     Estampas& estampas;
     std::function<void()> ayuda;
 
-    QLabel* Image1 = nullptr;
-    QLabel* Image2 = nullptr;
+    Cuadro* Image1 = nullptr;
+    Cuadro* Image2 = nullptr;
     QLabel* Label1 = nullptr;
     QPushButton* Btn = nullptr;
     Voz* voz = nullptr;

@@ -1,17 +1,35 @@
 // The main of all tests that need the toolkit. Nothing of the person's desktop is touched: windows
 // stay off the screen unless a platform was chosen from outside, sounds go nowhere unless a driver
-// was, and the configuration folder is an empty one that goes away afterwards.
+// was, and the configuration folder is an empty one that goes away afterwards. Off the screen there
+// are two: the platform's usual one, where windows begin, and to its right one that is as large in
+// twice as many pixels.
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QTemporaryDir>
+
+namespace {
+
+void TwoScreens(const QString& configuration) {
+    QFile file(configuration);
+    file.open(QIODevice::WriteOnly);
+    file.write(R"({"screens": [
+        {"name": "left", "width": 800, "height": 800, "x": 0},
+        {"name": "right", "width": 1600, "height": 1600, "x": 800}]})");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + configuration.toLocal8Bit());
+    qputenv("QT_SCREEN_SCALE_FACTORS", "left=1;right=2");
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const QTemporaryDir config;
     qputenv("XDG_CONFIG_HOME", config.path().toLocal8Bit());
     qputenv("LC_ALL", "C.UTF-8");
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen");
+    if (platform == "offscreen") TwoScreens(config.filePath("screens.json"));
     if (!qEnvironmentVariableIsSet("SDL_AUDIODRIVER")) qputenv("SDL_AUDIODRIVER", "dummy");
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

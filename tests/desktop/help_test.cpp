@@ -1,6 +1,7 @@
 // The help file and the window that shows it.
 #include <QCryptographicHash>
 #include <QPushButton>
+#include <QScreen>
 #include <QWindow>
 
 #include "desktop/help_viewer.h"
@@ -151,6 +152,45 @@ TEST_F(HelpTest, links_stay_inside_the_help) {
          {"http://example.org/dice.html", "file:///etc/hostname", "help:/../x"}) {
         emit Page()->anchorClicked(QUrl(link));
         EXPECT_EQ(Topic(), "aim.html") << link;
+    }
+}
+
+TEST_F(HelpTest, every_entry_of_the_contents_can_be_read_whatever_the_font) {
+    const QFont usual = QApplication::font();
+    for (const int points : {9, 24, 60}) {
+        QApplication::setFont(QFont(usual.family(), points));
+        viewer.emplace(*this, of, "Corvanda");
+        Ask(help::Contents);
+        auto* tree = Part<QTreeWidget>("HelpContents");
+        for (QTreeWidgetItemIterator each(tree); *each != nullptr; ++each) {
+            const QString text = (*each)->text(0);
+            EXPECT_GE(tree->visualItemRect(*each).width(),
+                      tree->fontMetrics().horizontalAdvance(text))
+                << points << ' ' << text.toStdString();
+        }
+        EXPECT_GE(Page()->width(), Window().width() / 2) << "the page is what people came for";
+    }
+    QApplication::setFont(usual);
+}
+
+TEST_F(HelpTest, pictures_are_drawn_for_the_screen_they_are_on) {
+    Ask(help::Context, 0);
+    const auto ratio = [] {
+        Window().grab();
+        const auto picture = Page()->document()->resource(
+            QTextDocument::ImageResource, Page()->source().resolved(QUrl("imagenes/dice.png")));
+        return picture.value<QPixmap>().devicePixelRatio();
+    };
+    const std::pair<const char*, int> table[] = {
+        {"dice.html", 1}, {"dice.html", 0}, {"bearing.html", 1}, {"dice.html", 1}, {"aim.html", 0}};
+    for (const auto& [page, screen] : table) {
+        Page()->Show(page);
+        Window().grab();
+        Window().move(QGuiApplication::screens().at(screen)->geometry().topLeft());
+        ASSERT_TRUE(QTest::qWaitFor([&] { return Window().devicePixelRatioF() == 1 + screen; }));
+        Window().grab();
+        Page()->Show("dice.html");
+        EXPECT_EQ(ratio(), 1 + screen) << "moved with " << page;
     }
 }
 

@@ -1,0 +1,83 @@
+#include "desktop/steady_windows.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+namespace corvanda {
+
+namespace {
+
+constexpr auto not_its_own = Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized;
+constexpr int still_for = 150;  // milliseconds; a window that a person drags moves more often
+
+void Resize(QWindow& window, const QSize& size) {
+    const QRect usable = window.screen()->availableGeometry().marginsRemoved(window.frameMargins());
+    QRect then({}, size.boundedTo(usable.size()).expandedTo(window.minimumSize()));
+    then.moveCenter(window.geometry().center());
+    // The title bar stays where it can be taken hold of.
+    then.moveTop(std::max(then.top(), usable.top()));
+    window.setGeometry(then);
+}
+
+}  // namespace
+
+SteadyWindows::SteadyWindows() {
+    qApp->installEventFilter(this);
+    rest.setSingleShot(true);
+    rest.setInterval(still_for);
+    connect(&rest, &QTimer::timeout, this, &SteadyWindows::GiveSizesBack);
+}
+
+SteadyWindows::Moved* SteadyWindows::Find(const QWidget* window) {
+    const auto found = std::find_if(moved.begin(), moved.end(),
+                                    [=](const Moved& each) { return each.window == window; });
+    return found != moved.end() ? &*found : nullptr;
+}
+
+bool SteadyWindows::eventFilter(QObject* watched, QEvent* event) {
+    const bool other_screen = event->type() == QEvent::ScreenChangeInternal;
+    if (!watched->isWidgetType() || (!other_screen && event->type() != QEvent::Move)) return false;
+    auto* window = static_cast<QWidget*>(watched);
+    const auto kind = window->windowType();
+    if (kind != Qt::Window && kind != Qt::Dialog) return false;
+    if (other_screen) Note(window);
+    if (Find(window) != nullptr) rest.start();
+    return false;
+}
+
+// The window still has the size that it had on the screen before.
+void SteadyWindows::Note(QWidget* window) {
+    Moved* known = Find(window);
+    if (known == nullptr) {
+        if (window->isVisible()) moved.push_back({window, window->size(), {}});
+        return;
+    }
+    const bool was_given = known->left_at.isValid() && known->left_at != window->size();
+    if (was_given) known->before = window->size();
+    known->left_at = {};
+}
+
+// A window manager may refuse while a person still holds the window, so a window that is moved on
+// is tried again, until it has its size or somebody has given it another.
+void SteadyWindows::GiveSizesBack() {
+    std::erase_if(moved, [](const Moved& each) { return IsSettled(each); });
+    // By number: a window that is resized may come to yet another screen, and the list may grow.
+    for (std::size_t i = 0; i < moved.size(); ++i) {
+        QWindow& window = *moved[i].window->windowHandle();
+        moved[i].left_at = window.size();
+        Resize(window, moved[i].before);
+    }
+}
+
+bool SteadyWindows::IsSettled(const Moved& each) {
+    if (!each.window || !each.window->isVisible()) return true;
+    const QWindow& window = *each.window->windowHandle();
+    const QSize now = window.size();
+    const bool untouched = !each.left_at.isValid() || each.left_at == now;
+    return window.windowStates() & not_its_own || now == each.before || !untouched;
+}
+
+}  // namespace corvanda
