@@ -64,11 +64,11 @@ void SteadyWindows::Note(QWidget* window) {
 // is tried again, until it has its size or somebody has given it another.
 void SteadyWindows::GiveSizesBack() {
     std::erase_if(moved, [](const Moved& each) { return IsSettled(each); });
-    // By number: a window that is resized may come to yet another screen, and the list may grow.
-    for (std::size_t i = 0; i < moved.size(); ++i) {
-        QWindow& window = *moved[i].window->windowHandle();
-        moved[i].left_at = window.size();
-        Resize(window, moved[i].before);
+    // Over a copy: a window that is resized may come to yet another screen and be noted again.
+    for (const Moved& each : std::vector(moved)) {
+        QWindow& window = *each.window->windowHandle();
+        Find(each.window)->left_at = window.size();
+        Resize(window, each.before);
     }
 }
 
