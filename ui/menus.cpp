@@ -7,10 +7,16 @@ namespace corvanda {
 
 namespace {
 
-QMenu* Menu(QMenuBar& barra, const char* nombre, const char* titulo) {
-    QMenu* menu = barra.addMenu(titulo);
+// With large fonts the toolkit's own style needs more room beside a caption than it asks for.
+void Ensanchar(QMenu* menu) {
+    menu->setMinimumWidth(menu->sizeHint().width() + menu->fontMetrics().height());
+}
+
+QMenu* Nombrar(QMenu* menu, const char* nombre) {
     menu->setObjectName(nombre);
     menu->menuAction()->setObjectName(nombre);
+    QObject::connect(
+        menu, &QMenu::aboutToShow, menu, [menu] { Ensanchar(menu); }, Qt::SingleShotConnection);
     return menu;
 }
 
@@ -45,19 +51,17 @@ Menus::Menus(QMenuBar& barra) {
 }
 
 void Menus::Hacer_Juego(QMenuBar& barra) {
-    QMenu* menu = Menu(barra, "mnuGame", "&Game");
+    QMenu* menu = Nombrar(barra.addMenu("&Game"), "mnuGame");
     mnuNew = Entrada(menu, "mnuNew", "vs. &Player", QKeySequence("Ctrl+J"));
     Raya(menu, "osd");
     mnuVs = Entrada(menu, "mnuVs", "&vs. Computer", QKeySequence("Ctrl+C"));
 }
 
 void Menus::Hacer_Opciones(QMenuBar& barra) {
-    QMenu* menu = Menu(barra, "mnuOpciones", "&Options");
+    QMenu* menu = Nombrar(barra.addMenu("&Options"), "mnuOpciones");
     mnuPasar = Entrada(menu, "mnuPasar", "&Pass", QKeySequence("F9"));
     Raya(menu, "ojren");
-    QMenu* niveles = menu->addMenu("Level");
-    niveles->setObjectName("mnuLevel");
-    niveles->menuAction()->setObjectName("mnuLevel");
+    QMenu* niveles = Nombrar(menu->addMenu("Level"), "mnuLevel");
     for (std::size_t i = 0; i < mnuLev.size(); ++i) {
         const QString nombre = QString("mnuLev%1").arg(i);
         mnuLev[i] =
@@ -71,7 +75,7 @@ void Menus::Hacer_Opciones(QMenuBar& barra) {
 }
 
 void Menus::Hacer_Ayuda(QMenuBar& barra) {
-    QMenu* menu = Menu(barra, "mnuAyuda", "&Help");
+    QMenu* menu = Nombrar(barra.addMenu("&Help"), "mnuAyuda");
     // The key in the caption is text only: the window itself answers F1, with another topic.
     mnuCont = Entrada(menu, "mnuCont", "&Contents        F1");
     mnuIndice = Entrada(menu, "mnuIndice", "&Index");
