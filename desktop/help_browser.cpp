@@ -9,7 +9,7 @@ namespace corvanda {
 namespace {
 
 constexpr QLatin1String scheme("help");
-constexpr double drawn_at = 1.5;
+constexpr double drawn_at = 2;  // as tools/laminas draws the pictures
 constexpr int margin = 14;
 
 QUrl UrlOf(const QString& address) {

@@ -1,6 +1,7 @@
 #include "ui/frm_principal.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <algorithm>
@@ -154,7 +155,7 @@ void FrmPrincipal::Mostrar_Ventana() {
 void FrmPrincipal::Poner_Icono() {
     QIcon icono;
     for (const int lado : {16, 32, 48, 128}) icono.addPixmap(estampas.Suelta("corvanda", lado, 1));
-    setWindowIcon(icono);
+    QGuiApplication::setWindowIcon(icono);  // the help has no window of this program above it
 }
 
 bool FrmPrincipal::eventFilter(QObject* objeto, QEvent* evento) {
