@@ -16,7 +16,7 @@ bash tools/instalar.sh build fuzz || exit 1
 configurado fuzz "${@/#/fuzz_}" || configurar fuzz || exit 1
 compilar fuzz "${@/#/fuzz_}" || exit 1
 
-export QT_QPA_PLATFORM=offscreen
+export QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=intercept_tls_get_addr=0
 export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
 mkdir -p build/fuzz/fallos build/log
 
