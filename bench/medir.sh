@@ -22,7 +22,7 @@ abrir_pantalla || exit 1
 
 ms() { local t=${EPOCHREALTIME/[.,]/}; echo $((t / 1000)); }
 
-window() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+window() { xdotool search --onlyvisible --class . getwindowname %@ 2>/dev/null | grep -qE "$1"; }
 
 # Starts a program and waits for its window; sets pid and took.
 start() {
@@ -35,17 +35,19 @@ start() {
 stop() { kill "$pid" 2>/dev/null; wait "$pid" 2>/dev/null; sleep 0.3; }
 
 cpu() { awk '{print ($14 + $15) * 10}' "/proc/$1/stat"; }
-wakes() { cat /proc/"$1"/task/*/status | awk '/^voluntary/ {n += $2} END {print n}'; }
+# Each thread and how often it has waited, and the sum of what lies between two such lists.
+wakes() { awk '/^Pid/ {t = $2} /^voluntary/ {print t, $2}' /proc/"$1"/task/*/status | sort; }
+between() { join "$1" "$2" | awk '{n += $3 - $2} END {print n + 0}'; }
 
 measure() {
-  local all=() i pss c0 w0
+  local all=() i pss c0
   for i in {1..9}; do start "$1" "$2"; all+=("$took"); stop; done
   start "$1" "$2"; sleep 6
   pss=$(awk '/^Pss:/ {printf "%.1f", $2 / 1024}' "/proc/$pid/smaps_rollup")
-  c0=$(cpu "$pid"); w0=$(wakes "$pid"); sleep 10
+  c0=$(cpu "$pid"); wakes "$pid" >"$work/before"; sleep 10; wakes "$pid" >"$work/after"
   printf '%-24s mapped window %4s ms, memory %6s MiB, in 10 s at rest: processor %s ms, wake-ups %s\n' \
     "${1##*/}" "$(printf '%s\n' "${all[@]}" | sort -n | sed -n 5p)" "$pss" \
-    $(($(cpu "$pid") - c0)) $(($(wakes "$pid") - w0))
+    $(($(cpu "$pid") - c0)) "$(between "$work/before" "$work/after")"
   stop
 }
 
