@@ -176,6 +176,20 @@ TEST(Sesion, the_system_ends_it_in_the_middle_of_anything) {
              s.programa.Ventana().mnuVs_Click();
          }},
         {"the missing help file", [](Sesion& s) { s.programa.Ventana().mnuIndice_Click(); }},
+        {"the speed dialog", [](Sesion& s) { s.programa.Ventana().mnuVel_Click(); }},
+        {"About", [](Sesion& s) { s.programa.Ventana().mnuAcerca_Click(); }},
+        {"the question before the end", [](Sesion& s) { s.programa.Ventana().mnuSalir_Click(); }},
+        {"a refused pass",
+         [](Sesion& s) {
+             Poner(s.programa.Ventana().Mesa(), s.programa.Estado(), "dice 5 4");
+             s.programa.Ventana().Mesa().mnuPasar_Click();
+         }},
+        {"the winner's box",
+         [](Sesion& s) {
+             Poner(s.programa.Ventana().Mesa(), s.programa.Estado(), "B 23x1 | C 5x15 | dice 6 5");
+             s.raton.Arrastrar(Agarre(s.Estado(), Elegir(s.Estado())),
+                               Meta(s.Estado(), Elegir(s.Estado())));
+         }},
         {"the computer's turn",
          [](Sesion& s) {
              s.vigilante.Siempre(Sortear);
