@@ -49,6 +49,23 @@ TEST(Colocacion, The_Board_As_Designed_And_As_A_Game_Begins) {
     EXPECT_EQ(mesa.partida.Tablero[1].Height, 5820);
 }
 
+// A picture that the board has kept from before would stay as it was.
+TEST(Colocacion, Dressing_The_Board_Tells_Of_What_Changed_And_Of_Nothing_Else) {
+    Escritorio escritorio;
+    Partida partida = Diseno();
+    const Partida antes = partida;
+    Juego juego(partida, escritorio.Todos());
+    for (const bool otra_vez : {false, true}) {
+        escritorio.refrescados.clear();
+        juego.Vestir_Tablero();
+        for (const Control control : escritorio.refrescados) {
+            EXPECT_NE(*Imagen_De(partida, control), *Imagen_De(antes, control));
+        }
+        // Both halves, and the points but for the four that have pictures from the beginning.
+        EXPECT_EQ(escritorio.refrescados.size(), otra_vez ? 0U : 22U);
+    }
+}
+
 TEST(Colocacion, Stacks_Climb_In_Layers_And_A_Leaving_Chip_Gives_Its_Place_Back) {
     const std::tuple<const char*, const char*, Integer, std::vector<Single>> columnas[] = {
         {"B 5x6 18x9 | C 12x15", "5/6", 5, {300, 825, 1350, 1875, 2400, 300}},
