@@ -161,7 +161,8 @@ TEST_F(WaveTest, the_device_is_given_back_when_it_was_quiet_and_opened_again) {
     Play("long.Wav", Ramp(44100 * 30, 1));
     EXPECT_TRUE(Comes([&] { return Threads() == threads + 2; }));
     player.reset();
-    EXPECT_EQ(Threads(), threads) << "ends in the middle of a sound";
+    // The system lists a thread for a moment more after it was joined.
+    EXPECT_TRUE(Comes([&] { return Threads() == threads; })) << "ends in the middle of a sound";
 }
 
 TEST_F(WaveTest, a_file_that_cannot_be_played_is_a_beep_and_no_device_is_silence) {
