@@ -1,5 +1,5 @@
-// The choice of one brown move on the board: an ordinary move, or a bear-off. The
-// driver in computadora.h calls one of these for each die; nothing is kept between calls.
+// The choice of one brown move on the board: an ordinary move, or a bear-off. The driver in
+// computadora.h calls one of these for each die; nothing is kept between calls.
 //
 // What is chosen is played at once, through the same procedures that a person's hands use, so after
 // Buscar_Tiro or Sacar the turn, the dice and even the game may be others.
