@@ -48,9 +48,9 @@ class Testigo final : public QObject {
 
 /// White begins, and nobody is asked.
 struct Quien_Empieza final : Volado {
-    explicit Quien_Empieza(Módulo1& modulo) : modulo(modulo) {}
+    explicit Quien_Empieza(Modulo1& modulo) : modulo(modulo) {}
     void Mostrar() override { modulo.Turno = CAFE; }
-    Módulo1& modulo;
+    Modulo1& modulo;
 };
 
 void Mandar(QWidget& widget, QEvent::Type tipo, QPointF lugar, Qt::MouseButtons botones) {

@@ -49,17 +49,17 @@ struct Punto {
 };
 
 /// What the dialogs share with the game.
-struct Módulo1 {
+struct Modulo1 {
     std::array<Punto, PUNTOS> Puntos{};
     Integer Turno = NADIE;      ///< side to move; NADIE until the first game
     Boolean Sonido = False;     ///< sound effects on
     Byte Nivel = DOS_PERSONAS;  ///< who plays Brown: a person, or the computer at a level
     Integer Velocidad = 0;      ///< the computer's pause, in cycles; below 1 there is none
 
-    bool operator==(const Módulo1&) const = default;
+    bool operator==(const Modulo1&) const = default;
 };
 
-struct Partida : Módulo1 {
+struct Partida : Modulo1 {
     Integer Origen = 0;       ///< where the chip being moved comes from: a point or ORIGEN_...
     Boolean Jugando = False;  ///< the dice are thrown and chips may be moved
     Integer Dado1 = 0;        ///< 1..6, 0 once used
@@ -98,10 +98,10 @@ inline Pila& Pila_En(Partida& partida, Integer lugar) {
 inline const Pila& Pila_En(const Partida& partida, Integer lugar) {
     return partida.LST.at(static_cast<std::size_t>(lugar));
 }
-inline Punto& Punto_En(Módulo1& modulo, Integer punto) {
+inline Punto& Punto_En(Modulo1& modulo, Integer punto) {
     return modulo.Puntos.at(static_cast<std::size_t>(punto));
 }
-inline const Punto& Punto_En(const Módulo1& modulo, Integer punto) {
+inline const Punto& Punto_En(const Modulo1& modulo, Integer punto) {
     return modulo.Puntos.at(static_cast<std::size_t>(punto));
 }
 

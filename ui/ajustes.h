@@ -15,9 +15,9 @@ class Ajustes {
     Ajustes(SettingsStore& almacen, const App& programa);
 
     /// Sets the Sound mark, the level marks and Velocidad; what is missing gets its default.
-    void Leer(Menus& menus, Módulo1& modulo) const;
+    void Leer(Menus& menus, Modulo1& modulo) const;
     /// Saves them. Returns an empty text, or why they could not be saved.
-    std::string Guardar(const Menus& menus, const Módulo1& modulo) const;
+    std::string Guardar(const Menus& menus, const Modulo1& modulo) const;
 
   private:
     SettingsStore& almacen;

@@ -21,7 +21,7 @@ class FrmVolado final : public QDialog {
 
   public:
     /// `ayuda` opens the help as F1 does in the main window.
-    FrmVolado(QWidget* ventana, Módulo1& modulo, RandomNumbers& azar, const Escala& escala,
+    FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, const Escala& escala,
               Estampas& estampas, std::function<void()> ayuda);
 
     /// One step: a throw, or the end.
@@ -36,7 +36,7 @@ class FrmVolado final : public QDialog {
     void Tirar_Cafe();
     void Decidir();
 
-    Módulo1& modulo;
+    Modulo1& modulo;
     RandomNumbers& azar;
     const Escala& escala;
     Estampas& estampas;

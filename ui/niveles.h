@@ -9,7 +9,7 @@
 namespace corvanda {
 
 struct Nivel_Del_Menu {
-    Byte nivel;            ///< as Módulo1::Nivel
+    Byte nivel;            ///< as Modulo1::Nivel
     const char* titulo;    ///< its caption
     const char* guardado;  ///< its name in the settings
 };

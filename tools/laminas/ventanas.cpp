@@ -42,7 +42,7 @@ QImage Retrato(QDialog& ventana) {
 }  // namespace
 
 QImage Quien_Empieza(Estampas& estampas) {
-    Módulo1 modulo;
+    Modulo1 modulo;
     Tiros tiros({5, 3});
     const Escala escala;
     FrmVolado ventana(nullptr, modulo, tiros, escala, estampas, [] {});
@@ -53,7 +53,7 @@ QImage Quien_Empieza(Estampas& estampas) {
 }
 
 QImage Velocidad(Estampas& estampas) {
-    Módulo1 modulo;
+    Modulo1 modulo;
     modulo.Velocidad = 100;
     const Escala escala;
     Form1 ventana(nullptr, modulo, escala, estampas);
