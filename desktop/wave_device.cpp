@@ -5,6 +5,8 @@
 #include <SDL.h>
 
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 namespace corvanda {
 
@@ -15,6 +17,25 @@ constexpr std::chrono::seconds quiet_time{2};
 /// Frames that the library hands over at once, about 23 milliseconds. With half as many, sounds
 /// crackle on a machine that has other work to do; with twice as many, they come late.
 constexpr int frames_at_once = 1024;
+/// How long a sound that is replaced takes to fall silent; cut off at once, it would tick.
+constexpr std::size_t fade_bytes = wave::BytesPerSecond * 2 / 1000 / 4 * 4;
+
+/// The first samples of what is left of a sound, falling to nothing.
+wave::Samples FadeOut(const wave::Samples& sound, std::size_t left) {
+    const std::size_t played = sound.size() - std::min(left, sound.size());
+    const std::size_t size = std::min(fade_bytes, sound.size() - played);
+    wave::Samples tail(size);
+    if (size == 0) return tail;
+    std::vector<std::int16_t> values(size / sizeof(std::int16_t));
+    std::memcpy(values.data(), sound.data() + played, size);
+    const auto count = static_cast<int>(values.size());
+    for (int i = 0; i < count; ++i) {
+        auto& value = values[static_cast<std::size_t>(i)];
+        value = static_cast<std::int16_t>(value * (count - i) / (count + 1));
+    }
+    std::memcpy(tail.data(), values.data(), size);
+    return tail;
+}
 
 }  // namespace
 
@@ -55,7 +76,7 @@ unsigned WaveDevice::Count() {
     return static_cast<unsigned>(std::max(0, SDL_GetNumAudioDevices(0)));
 }
 
-bool WaveDevice::Play(const wave::Samples& samples) {
+bool WaveDevice::Play(wave::Samples samples) {
     // A device whose server died is stopped for ever.
     if (device != 0 && SDL_GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED) Close();
     if (!Open()) {
@@ -64,13 +85,16 @@ bool WaveDevice::Play(const wave::Samples& samples) {
     }
     // In one lock, so that the device finds either sound and no gap between them.
     SDL_LockAudioDevice(device);
+    const wave::Samples tail = FadeOut(playing, SDL_GetQueuedAudioSize(device));
     SDL_ClearQueuedAudio(device);
+    SDL_QueueAudio(device, tail.data(), static_cast<Uint32>(tail.size()));
     SDL_QueueAudio(device, samples.data(), static_cast<Uint32>(samples.size()));
     SDL_UnlockAudioDevice(device);
     SDL_PauseAudioDevice(device, 0);
     const auto bytes = static_cast<std::int64_t>(samples.size());
     rest_at =
         Clock::now() + quiet_time + std::chrono::milliseconds(bytes * 1000 / wave::BytesPerSecond);
+    playing = std::move(samples);
     return true;
 }
 
@@ -80,6 +104,7 @@ void WaveDevice::Close() {
     SDL_Quit();
     device = 0;
     started = false;
+    playing = {};
 }
 
 }  // namespace corvanda

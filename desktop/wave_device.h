@@ -24,8 +24,9 @@ class WaveDevice {
     /// How many devices there are; 0 when the audio library finds no server or driver at all.
     unsigned Count();
 
-    /// Starts a sound in the place of one that still plays. False when no device can be opened.
-    bool Play(const wave::Samples& samples);
+    /// Starts a sound in the place of one that still plays, which falls silent within two
+    /// milliseconds. False when no device can be opened.
+    bool Play(wave::Samples samples);
 
     bool InUse() const { return started; }
     /// When the device has been quiet long enough to be closed; of meaning while it is in use.
@@ -40,6 +41,7 @@ class WaveDevice {
     bool started = false;
     std::uint32_t device = 0;  ///< 0 is no device to the library as well
     Clock::time_point rest_at{};
+    wave::Samples playing;  ///< the sound that was started last, whole
 };
 
 }  // namespace corvanda

@@ -40,8 +40,8 @@ void WaveWorker::Do(const Task& todo, WaveDevice& device) {
         answer.notify_all();
     }
     if (!todo.sound) return;
-    if (const auto samples = wave::ReadWaveFile(*todo.sound)) {
-        device.Play(*samples);
+    if (auto samples = wave::ReadWaveFile(*todo.sound)) {
+        device.Play(std::move(*samples));
     } else {
         AskForBeep();
     }

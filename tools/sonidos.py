@@ -19,7 +19,7 @@ import wave
 from pathlib import Path
 
 RATE = 44100
-TARGET_DB = -15.0     # loudest weighted 50 ms of every file
+TARGET_DB = -18.5     # loudest 100 ms of every file, A-weighted
 CEILING_DB = -1.5     # leaves room for players that resample between the samples
 
 
@@ -111,18 +111,20 @@ def chip():
 
 
 def cannon():
-    """A boom that sinks in pitch under a burst of powder noise that darkens."""
+    """A boom that sinks in pitch under a crack of powder that darkens as it dies."""
     rng = random.Random(33)
-    out, phase = [0.0] * seconds(0.58), 0.0
+    out, phase = [0.0] * seconds(0.62), 0.0
     for i in range(len(out) - seconds(0.004)):
         t = i / RATE
-        phase += 2 * math.pi * (52 + 125 * math.exp(-t / 0.040)) / RATE
+        phase += 2 * math.pi * (58 + 150 * math.exp(-t / 0.040)) / RATE
         # The overdrive gives harmonics, or small loudspeakers would play nothing.
-        level = min(1.0, t / 0.002) * math.exp(-t / 0.19)
-        out[i + seconds(0.004)] = level * math.tanh(2.8 * level * math.sin(phase))
-    mix(out, noise_burst(rng, 0.012, biquad("low", 6500), biquad("high", 250)), 0.003, 1.5)
-    mix(out, noise_burst(rng, 0.060, biquad("low", 1900), biquad("high", 90)), 0.004, 1.7)
-    mix(out, noise_burst(rng, 0.150, biquad("low", 420, 1.1), biquad("high", 60)), 0.010, 2.1)
+        level = min(1.0, t / 0.002) * math.exp(-t / 0.17)
+        out[i + seconds(0.004)] = 0.8 * level * math.tanh(4.5 * level * math.sin(phase))
+    # The crack lies where small loudspeakers are best; the boom follows it.
+    mix(out, noise_burst(rng, 0.010, biquad("high", 1500), biquad("low", 9000)), 0.003, 2.2)
+    mix(out, noise_burst(rng, 0.030, biquad("band", 1800, 0.6)), 0.004, 2.8)
+    mix(out, noise_burst(rng, 0.070, biquad("low", 1500), biquad("high", 250)), 0.006, 2.2)
+    mix(out, noise_burst(rng, 0.150, biquad("low", 420, 1.1), biquad("high", 60)), 0.010, 1.8)
     return [out]
 
 
@@ -144,12 +146,13 @@ def strike():
     """Two muted bar notes a tritone apart, falling: a refusal, not an alarm."""
     rng = random.Random(55)
     out = [0.0] * seconds(0.52)
-    for start, root, force in ((0.004, 233.1, 0.85), (0.154, 164.8, 1.0)):
+    for start, root, force in ((0.004, 466.2, 0.85), (0.154, 329.6, 1.0)):
         # A hand on the bar stops the high partials first.
-        modes = ((root, 0.058, 1.0), (root * 2.02, 0.040, 0.55), (root * 2.76, 0.026, 0.42),
-                 (root * 5.40, 0.011, 0.22), (root * 8.93, 0.005, 0.08))
+        modes = ((root / 2, 0.050, 0.35), (root, 0.058, 1.0), (root * 2.02, 0.044, 0.70),
+                 (root * 2.76, 0.032, 0.50), (root * 5.40, 0.012, 0.22),
+                 (root * 8.93, 0.005, 0.08))
         mix(out, struck(modes, 0.003), start, force)
-        mix(out, noise_burst(rng, 0.006, biquad("low", 900)), start, 0.6 * force)
+        mix(out, noise_burst(rng, 0.006, biquad("low", 1400)), start, 0.6 * force)
     return [out]
 
 
@@ -187,18 +190,31 @@ def applause():
     return out
 
 
-def loudness_db(channels):
-    """Level of the loudest 50 ms, weighted roughly as the ear hears it.
+def first_order(kind, freq):
+    """One first-order section, in the form that run takes."""
+    k = math.tan(math.pi * freq / RATE)
+    b0, b1 = {"low": (k, k), "high": (1.0, -1.0)}[kind]
+    return b0 / (1 + k), b1 / (1 + k), 0.0, (k - 1) / (k + 1), 0.0
 
-    Bass counts less and treble more. The channels are averaged, not summed,
-    since a mono file comes out of both loudspeakers anyway.
+
+def as_heard(samples):
+    """The A-weighted wave: the ear hears little of the bass."""
+    for kind, freq in (("high", 20.6), ("high", 20.6), ("high", 107.7), ("high", 737.9),
+                       ("low", 12194), ("low", 12194)):
+        samples = run(samples, first_order(kind, freq))
+    return [1.2589 * x for x in samples]   # 0 dB at 1000 Hz
+
+
+def loudness_db(channels):
+    """Level of the loudest 100 ms, A-weighted.
+
+    The channels are averaged, not summed, since a mono file comes out of both
+    loudspeakers anyway.
     """
     power = [0.0] * len(channels[0])
     for samples in channels:
-        heard = run(samples, biquad("high", 60, 0.5))
-        bright = run(heard, biquad("high", 1500))
-        power = [p + (x + 0.58 * y) ** 2 / len(channels) for p, x, y in zip(power, heard, bright)]
-    width = seconds(0.05)
+        power = [p + x * x / len(channels) for p, x in zip(power, as_heard(samples))]
+    width = seconds(0.1)
     total = best = sum(power[:width])
     for old, new in zip(power, power[width:]):
         total += new - old

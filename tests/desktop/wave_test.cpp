@@ -142,7 +142,9 @@ TEST_F(WaveTest, a_new_sound_takes_the_place_of_the_one_that_plays) {
     ASSERT_TRUE(ComesToHear(shorter));
     const Signal all = Heard();
     const auto begin = std::search(all.begin(), all.end(), shorter.begin(), shorter.end());
-    EXPECT_GE(*(begin - 1), 10000) << "no gap between the two";
+    EXPECT_NE(*(begin - 1), 0) << "no gap between the two";
+    EXPECT_GE(*(begin - 2 * 100), 10000) << "the fall takes two milliseconds, 88 frames";
+    EXPECT_TRUE(std::is_sorted(begin - 2 * 88, begin, std::greater<>())) << "without a tick";
     EXPECT_TRUE(std::all_of(begin + 18000, all.end(), [](auto each) { return each == 0; }));
     for (int i = 0; i < 200; ++i) Play("long.Wav");
     Play("short.Wav", Ramp(9000, 20000));
