@@ -1,4 +1,6 @@
 // Which chip a press picks up, and what a drop on a point or on a chip means.
+#include <cstdlib>
+
 #include "core/comprobada.h"
 #include "core/juego.h"
 
@@ -70,6 +72,23 @@ bool Juego::Se_Puede_Tomar(Control ficha) const {
     if (Entrada_Cerrada() || !Puede_Jugar(Color_De(ficha))) return false;
     const Pila& barra = Pila_En(partida, Barra_De(Color_De(ficha)));
     return barra.Cuenta() == 0 || barra.Tope() == ficha.Index;
+}
+
+Lugares Juego::Destinos(Control ficha) const {
+    Lugares destinos;
+    if (!Puede_Soltar(ficha)) return destinos;
+    const Integer color = Color_De(ficha);
+    for (Integer p = 0; p < PUNTOS; ++p) {
+        const auto distancia = static_cast<Integer>(std::abs(partida.Origen - p));
+        destinos[static_cast<std::size_t>(p)] = !Hacia_Atras(color, partida.Origen, p) &&
+                                                !Cerrado(partida, p, color) &&
+                                                Dado_Que_Paga(distancia) != NINGUN_DADO;
+    }
+    const auto bandeja = static_cast<Integer>(color == BLANCA ? 1 : 0);
+    const auto lugar = static_cast<std::size_t>(color == BLANCA ? BANDEJA_BLANCA : BANDEJA_CAFE);
+    const bool abierta = Imagen_De(partida, {Arreglo::Adios, bandeja})->Visible;
+    destinos[lugar] = abierta && Dado_Que_Saca(bandeja) != NINGUN_DADO;
+    return destinos;
 }
 
 void Juego::Triangle_DragDrop(Integer Index, Control Source) {

@@ -83,6 +83,9 @@ class Juego {
     Integer GetNumber(const Image& Imagen) const;
     /// Whether a press on this chip would pick one up now.
     bool Se_Puede_Tomar(Control ficha) const;
+    /// Where a drop of this chip would be accepted now: points that a shown die pays and that are
+    /// open, and the own tray. Nowhere for a chip that was not picked up.
+    Lugares Destinos(Control ficha) const;
 
     // Bearing off (salida.cpp): Index 0 is Brown's tray, 1 White's
 
@@ -144,7 +147,8 @@ class Juego {
     bool Le_Toca_A_La_Computadora() const;
     void Entregar_Turno();
 
-    bool Pagar(Integer distancia);
+    static constexpr Integer NINGUN_DADO = -1;
+    Integer Dado_Que_Paga(Integer distancia) const;
     void Gastar_Dado(Integer cual);
     void Comer(Integer Color, Integer Destino);
     void Llevar_Ficha(Integer Color, Integer Ficha, Integer Destino);
@@ -160,7 +164,7 @@ class Juego {
     bool Es_Tope_De_Origen(Control fuente) const;
     bool Hay_Ganador() const;
 
-    Integer Dado_Que_Saca(Integer distancia) const;
+    Integer Dado_Que_Saca(Integer bandeja) const;
     bool Hay_Ficha_Atras() const;
     void Llevar_A_Bandeja(Integer ficha);
     void Terminar(const std::string& anuncio);

@@ -14,8 +14,12 @@ void Juego::Mover(Integer Color, Integer Ficha, Integer Destino) {
         return;
     }
     const auto distancia = static_cast<Integer>(std::abs(partida.Origen - Destino));
-    if (!colocando && !Pagar(distancia)) return;
-    if (!colocando) Efecto("bounce.Wav");
+    const Integer dado = Dado_Que_Paga(distancia);
+    if (!colocando && dado == NINGUN_DADO) return;
+    if (!colocando) {
+        Gastar_Dado(dado);
+        Efecto("bounce.Wav");
+    }
 
     // Counted before the stacks change: the moving chip is still seen at Origen.
     if (Color == BLANCA && Destino >= 18 && partida.Blanca_En_Casa == False) {
@@ -34,16 +38,11 @@ void Juego::Mover(Integer Color, Integer Ficha, Integer Destino) {
     if (!colocando && !partida.Dado[0].Visible && !partida.Dado[1].Visible) Entregar_Turno();
 }
 
-// Uses the die that pays the distance, the first before the second; false when none does.
-bool Juego::Pagar(Integer distancia) {
-    for (const auto cual : {Integer{0}, Integer{1}}) {
-        const Integer valor = cual == 0 ? partida.Dado1 : partida.Dado2;
-        if (distancia != valor || !partida.Dado.at(static_cast<std::size_t>(cual)).Visible)
-            continue;
-        Gastar_Dado(cual);
-        return true;
-    }
-    return false;
+// The die that pays the distance, the first before the second.
+Integer Juego::Dado_Que_Paga(Integer distancia) const {
+    if (distancia == partida.Dado1 && partida.Dado[0].Visible) return 0;
+    if (distancia == partida.Dado2 && partida.Dado[1].Visible) return 1;
+    return NINGUN_DADO;
 }
 
 // Only the first die counts the extra uses after a double.

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,10 @@ inline constexpr Integer BARRA_CAFE = 24;
 inline constexpr Integer BARRA_BLANCA = 25;
 inline constexpr Integer BANDEJA_BLANCA = 26;
 inline constexpr Integer BANDEJA_CAFE = 27;
+
+inline constexpr std::size_t LUGARES = 28;  ///< all locations of LST
+/// A set of them.
+using Lugares = std::bitset<LUGARES>;
 
 /// Values of Origen beyond the points.
 inline constexpr Integer ORIGEN_BARRA_BLANCA = -1;
@@ -70,7 +75,7 @@ struct Partida : Modulo1 {
     Integer Altura_Cafe = 0;         ///< where the next chip goes in the tray, below the tray's Top
     Integer Altura_Blanca = 0;
 
-    std::array<Pila, 28> LST{};  ///< the chips on the points, the bars and the trays
+    std::array<Pila, LUGARES> LST{};  ///< the chips on the points, the bars and the trays
 
     std::array<Image, 2> Tablero{};
     std::array<Image, PUNTOS> Triangle{};

@@ -9,8 +9,6 @@ namespace corvanda {
 
 namespace {
 
-constexpr Integer NINGUN_DADO = -1;
-
 Integer Bandeja_De(Integer color) {
     return color == BLANCA ? 1 : 0;
 }
@@ -25,11 +23,7 @@ void Juego::Adios_DragDrop(Integer Index, Control Source) {
     const Comprobada accion(*this);
     const Image* bandeja = Imagen_De(partida, {Arreglo::Adios, Index});
     if (bandeja == nullptr || !bandeja->Visible || !Puede_Soltar(Source)) return;
-    const bool propia = Index == Bandeja_De(partida.Turno);
-    const auto fuera = static_cast<Integer>(Index == 1 ? PUNTOS : -1);
-    const auto distancia = static_cast<Integer>(std::abs(partida.Origen - fuera));
-    const Integer dado =
-        propia && Es_Punto(partida.Origen) ? Dado_Que_Saca(distancia) : NINGUN_DADO;
+    const Integer dado = Dado_Que_Saca(Index);
     if (dado == NINGUN_DADO) {
         Beeper();
         return;
@@ -49,13 +43,17 @@ void Juego::Adios_DragDrop(Integer Index, Control Source) {
     }
 }
 
-// The die that pays: an exact one, the first before the second; else the larger of those shown,
-// when it is large enough and no chip of either side stands farther back in the home board.
-Integer Juego::Dado_Que_Saca(Integer distancia) const {
+// The die that pays a chip's way from Origen into the mover's own tray: an exact one, the first
+// before the second; else the larger of those shown, when it is large enough and no chip of either
+// side stands farther back in the home board.
+Integer Juego::Dado_Que_Saca(Integer bandeja) const {
+    if (bandeja != Bandeja_De(partida.Turno) || !Es_Punto(partida.Origen)) return NINGUN_DADO;
+    const auto fuera = static_cast<Integer>(bandeja == 1 ? PUNTOS : -1);
+    const auto distancia = static_cast<Integer>(std::abs(partida.Origen - fuera));
+    const Integer exacto = Dado_Que_Paga(distancia);
+    if (exacto != NINGUN_DADO) return exacto;
     const bool primero = partida.Dado[0].Visible;
     const bool segundo = partida.Dado[1].Visible;
-    if (primero && distancia == partida.Dado1) return 0;
-    if (segundo && distancia == partida.Dado2) return 1;
     if (primero && partida.Dado1 >= partida.Dado2) {
         return distancia > partida.Dado1 || Hay_Ficha_Atras() ? NINGUN_DADO : 0;
     }

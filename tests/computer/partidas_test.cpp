@@ -2,6 +2,8 @@
 // without a plan: against each other and against the computer.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <functional>
 #include <iostream>
 
 #include "computer/computadora.h"
@@ -110,7 +112,9 @@ bool Todo_Avisado(const Mesa& mesa, const Partida& antes) {
     return true;
 }
 
-void Jugar_Partida(std::uint32_t semilla, Byte nivel, Cuenta& cuenta) {
+/// `antes_de_jugar` looks at each position that the person meets.
+void Jugar_Partida(std::uint32_t semilla, Byte nivel, Cuenta& cuenta,
+                   const std::function<void(const Mesa&)>& antes_de_jugar = {}) {
     Computadora computadora;
     Mesa mesa("", &computadora);
     mesa.escritorio.Sembrar(semilla);
@@ -121,6 +125,7 @@ void Jugar_Partida(std::uint32_t semilla, Byte nivel, Cuenta& cuenta) {
     while (mesa.partida.Jugando != False) {
         ASSERT_TRUE(nivel == DOS_PERSONAS || mesa.partida.Turno == BLANCA) << semilla;
         const Partida antes = mesa.partida;
+        if (antes_de_jugar) antes_de_jugar(mesa);
         mesa.escritorio.refrescados.clear();
         persona.Jugar();
         ASSERT_EQ(Faltas(mesa.partida), Diario{}) << semilla;
@@ -148,6 +153,60 @@ TEST(Partidas, Two_Hundred_At_Each_Level_Come_To_Their_Known_End) {
     const Cuenta avanzado = Jugar_Partidas(200, AVANZADO);
     EXPECT_EQ(avanzado.firma, 216473672919908251U);
     EXPECT_GT(avanzado.cafes, avanzado.blancas) << "it should beat somebody without a plan";
+}
+
+struct Ofertas {
+    int puntos = 0, bandejas = 0, entradas = 0, dobles = 0, dado_mayor = 0;
+};
+
+/// Takes every chip that can be taken and drops it on every point and tray, each on a copy.
+void Probar_Destinos(const Mesa& mesa, Mesa& copia, Ofertas& ofertas) {
+    const Partida antes = mesa.partida;
+    const bool blanca = antes.Turno == BLANCA;
+    const Arreglo fichas = blanca ? Arreglo::Blanca : Arreglo::Cafe;
+    for (Control ficha{fichas, 0}; ficha.Index < FICHAS; ++ficha.Index) {
+        copia.partida = antes;
+        const Control tomada = copia.Presionar(ficha);
+        if (tomada != ficha) continue;  // not on top
+        const Partida en_la_mano = copia.partida;
+        const Lugares destinos = copia.juego.Destinos(ficha);
+        ASSERT_EQ(copia.partida, en_la_mano);
+        for (std::size_t i = 0; i < LUGARES; ++i) {
+            const auto lugar = static_cast<Integer>(i);
+            if (lugar == BARRA_BLANCA || lugar == BARRA_CAFE) continue;
+            const auto bandeja = static_cast<Integer>(lugar == BANDEJA_BLANCA ? 1 : 0);
+            copia.partida = en_la_mano;
+            copia.Soltar(ficha, Es_Punto(lugar) ? Control{Arreglo::Triangle, lugar}
+                                                : Control{Arreglo::Adios, bandeja});
+            ASSERT_EQ(copia.partida.LST != antes.LST, destinos[i])
+                << Texto(en_la_mano) << ", from " << en_la_mano.Origen << " to " << i;
+            if (!destinos[i]) continue;
+            const int distancia = std::abs(en_la_mano.Origen - (blanca ? PUNTOS : -1));
+            ++(Es_Punto(lugar) ? ofertas.puntos : ofertas.bandejas);
+            ofertas.entradas += Es_Punto(en_la_mano.Origen) ? 0 : 1;
+            ofertas.dobles += antes.Dobles > 0 ? 1 : 0;
+            if (!Es_Punto(lugar) && distancia != antes.Dado1 && distancia != antes.Dado2)
+                ++ofertas.dado_mayor;
+        }
+        copia.escritorio.Leer();
+    }
+}
+
+TEST(Partidas, A_Drop_Is_Accepted_Exactly_Where_It_Was_Said_To_Be) {
+    Ofertas ofertas;
+    Mesa copia;
+    copia.escritorio.Sembrar(1);
+    copia.escritorio.Contestar_Siempre();
+    for (std::uint32_t semilla = 0; semilla < 12; ++semilla) {
+        Cuenta cuenta;
+        Jugar_Partida(semilla, DOS_PERSONAS, cuenta,
+                      [&](const Mesa& mesa) { Probar_Destinos(mesa, copia, ofertas); });
+        if (HasFatalFailure()) return;
+    }
+    for (const int vistas :
+         {ofertas.puntos, ofertas.bandejas, ofertas.entradas, ofertas.dobles, ofertas.dado_mayor}) {
+        EXPECT_GT(vistas, 10);
+    }
 }
 
 TEST(Partidas, DISABLED_Ten_Thousand_At_Each_Level) {
