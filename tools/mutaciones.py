@@ -15,10 +15,10 @@ that fails, crashes or does not end in time has caught it. Every change that no 
 printed with its file, line and column, and the last line counts: "caught X of Y (Z %)". A change
 that does not compile is replaced by another.
 
-Everything happens in a temporary folder; the checkout is only read. The programs' long runs stay
-off, since they are disabled tests. Headers are not changed, as each would rebuild everything.
-core/validez.cpp is left out: it is what the tests judge positions by and no part of play, and it
-has its own table of faults that it must name (tests/core/colocacion_test.cpp).
+Everything happens in a temporary folder; the checkout is only read. Headers are not changed, as
+each would rebuild everything. core/validez.cpp is left out: it is what the tests judge positions by
+and no part of play, and it has its own table of faults that it must name
+(tests/core/colocacion_test.cpp).
 """
 
 import argparse
@@ -141,7 +141,8 @@ class Taller:
         return self.carpeta / (fuente.replace("/", "_") + ".o")
 
     def compilar(self, fuente, objeto):
-        orden = COMPILAR + ["-I", str(self.copia), str(fuente), "-o", str(objeto)]
+        orden = COMPILAR + ["-I", str(self.copia), f'-DCORVANDA_FUENTES="{self.copia}"',
+                            str(fuente), "-o", str(objeto)]
         return subprocess.run(orden, capture_output=True, text=True)
 
     def compilar_todo(self, tareas):

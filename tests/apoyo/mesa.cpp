@@ -4,8 +4,6 @@
 
 namespace corvanda::pruebas {
 
-namespace {
-
 Control Nombrado(const std::string& texto) {
     const auto nombre = std::string("..PBCAD").find(texto[0]);  // in the order of Arreglo
     if (nombre == std::string::npos) {
@@ -13,8 +11,6 @@ Control Nombrado(const std::string& texto) {
     }
     return {static_cast<Arreglo>(nombre), static_cast<Integer>(std::stoi(texto.substr(1)))};
 }
-
-}  // namespace
 
 Mesa::Mesa(const std::string& posicion, Oponente* computadora)
     : juego(partida, escritorio.Todos(), computadora) {

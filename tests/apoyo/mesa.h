@@ -7,6 +7,9 @@
 
 namespace corvanda::pruebas {
 
+/// A control by a short name: a point's number, "B3" and "C3" for chips, "A0" and "A1" for trays.
+Control Nombrado(const std::string& texto);
+
 struct Mesa {
     /// Without a position the board is set up and no game runs.
     explicit Mesa(const std::string& posicion = "", Oponente* computadora = nullptr);

@@ -122,38 +122,6 @@ TEST(Busqueda, Scores_Every_Candidate) {
     }
 }
 
-TEST(Busqueda, Exchanges_The_Dice_In_Place_Only_When_The_Second_Is_Played) {
-    struct Fila {
-        const char* posicion;
-        Byte nivel;
-        Integer segundo, cambiado, origen;  // the dice are a 6 and this one
-    };
-    const Fila filas[] = {
-        {"B bar15 | C 23x1 0x14 | dice 6 1", AVANZADO, 1, False, 23},
-        {"B 17x2 bar13 | C 23x1 0x14 | dice 6 1", AVANZADO, 1, True, 23},
-        {"B 17x2 22x2 bar11 | C 23x1 0x14 | dice 6 1", AVANZADO, 1, False, 12},
-        {"B 17x2 bar13 | C 23x1 0x14 | dice 6 0", AVANZADO, 0, False, 12},
-        {"B 17x2 bar13 | C 23x1 0x14 | dice 6 1", PRINCIPIANTE, 1, False, 23},
-        // A pass at Beginner leaves Origen on the last point looked at.
-        {"B 17x2 bar13 | C 23x1 3x13 2x1 | dice 6 0", PRINCIPIANTE, 0, False, 2},
-        {"B 17x2 bar13 | C 23x1 3x13 0x1 | dice 6 0", PRINCIPIANTE, 0, False, 0},
-    };
-    for (const auto& [posicion, nivel, segundo, cambiado, origen] : filas) {
-        SCOPED_TRACE(posicion);
-        Mesa mesa(posicion + std::string(" | turn C"));
-        mesa.partida.Nivel = nivel;
-        mesa.partida.Origen = 12;
-        mesa.escritorio.Sembrar(1);
-        mesa.escritorio.Contestar_Siempre();
-        Integer uno = 6, otro = segundo;
-        Busqueda(mesa.juego).Buscar_Tiro(uno, otro);
-        EXPECT_EQ(uno, cambiado == True ? segundo : 6);
-        EXPECT_EQ(otro, cambiado == True ? 6 : segundo);
-        EXPECT_EQ(mesa.partida.Origen, origen);
-        EXPECT_EQ(mesa.partida.Turno, origen == 23 ? CAFE : BLANCA);
-    }
-}
-
 TEST(Computadora, Plays_The_Move_Of_Its_Level) {
     const Turno turnos[] = {
         // Beginner: the first move from the back, the larger die first, no look at scores.
@@ -220,48 +188,36 @@ TEST(Computadora, Reads_The_Dice_Before_The_Pause_And_The_Rest_After_It) {
 // Three passes for each cycle; another speed holds from the next pause on.
 TEST(Computadora, Pauses_Before_Each_Move) {
     struct Fila {
-        Integer velocidad;
-        std::initializer_list<int> dados;
-        Integer nueva;  // from the second pass of the first pause on
+        Integer velocidad, nueva;  // the second from the second pass of the first pause on
+        int primero, segundo;      // the dice
         int pases;
     };
-    const Fila filas[] = {{4, {6, 5, 1, 2}, 4, 24},
-                          {1, {2, 2, 1, 2}, 1, 12},
-                          {0, {6, 5, 1, 2}, 0, 0},
-                          {-32768, {6, 5, 1, 2}, -32768, 0},
-                          {32767, {6, 5, 1, 2}, 32767, 196602},
-                          {4, {6, 5, 1, 2}, 7, 12 + 21},
-                          {4, {6, 5, 1, 2}, 1, 12 + 3},
-                          {4, {2, 2, 1, 2}, 0, 12}};
-    for (const Fila& fila : filas) {
+    const Fila filas[] = {{4, 4, 6, 5, 24},      {1, 1, 2, 2, 12},
+                          {-32768, 1, 6, 5, 0},  {32767, 32767, 6, 5, 196602},
+                          {4, 7, 6, 5, 12 + 21}, {4, 0, 2, 2, 12}};
+    for (const auto& [velocidad, nueva, primero, segundo, pases] : filas) {
         Computadora computadora;
         Mesa mesa("turn B | B bar15 | C 23x15", &computadora);
         mesa.partida.Nivel = PRINCIPIANTE;
-        mesa.partida.Velocidad = fila.velocidad;
-        mesa.escritorio.Dados(fila.dados);
-        mesa.escritorio.En_El_Pase(4 + 2, [&] { mesa.partida.Velocidad = fila.nueva; });
+        mesa.partida.Velocidad = velocidad;
+        mesa.escritorio.Dados({primero, segundo, 1, 2});
+        mesa.escritorio.En_El_Pase(4 + 2, [&, v = nueva] { mesa.partida.Velocidad = v; });
         mesa.juego.Tirar_Dados();
         EXPECT_EQ(mesa.partida.Turno, BLANCA);
-        EXPECT_EQ(mesa.escritorio.Pases_De_Pausa(), fila.pases) << fila.velocidad;
-        EXPECT_EQ(mesa.escritorio.Pases(), fila.pases + 8) << "two rolls of four passes each";
+        EXPECT_EQ(mesa.escritorio.Pases_De_Pausa(), pases) << velocidad;
+        EXPECT_EQ(mesa.escritorio.Pases(), pases + 8) << "two rolls of four passes each";
     }
 }
 
 // No play leads here: dice with a value whose images are hidden pay nothing, and yet the pass
 // command counts on them.
 TEST(Computadora, Hands_The_Turn_Over_When_Move_And_Pass_Are_Refused) {
-    for (const bool cierra : {false, true}) {
-        Mesa mesa("B bar15 | C 23x15 | turn C | dice 6 5");
-        for (Image& dado : mesa.partida.Dado) dado.Visible = false;
-        mesa.escritorio.Dados({1, 2});
-        mesa.escritorio.Contestar(button::Ok, [&] {
-            if (cierra) mesa.juego.Cerrar();
-        });
-        Computadora().Tirar_Computer(mesa.juego);
-        EXPECT_EQ(mesa.escritorio.Leer(),
-                  (Diario{BIP, "caja 64 [Corvanda :] You have to play the  6"}));
-        EXPECT_EQ(Dados_De(mesa.partida), cierra ? "6 5" : "1* 2*");
-    }
+    Mesa mesa("B bar15 | C 23x15 | turn C | dice 6 5");
+    for (Image& dado : mesa.partida.Dado) dado.Visible = false;
+    mesa.escritorio.Dados({1, 2});
+    mesa.escritorio.Contestar();
+    Computadora().Tirar_Computer(mesa.juego);
+    EXPECT_EQ(Dados_De(mesa.partida), "1* 2*");
 }
 
 }  // namespace

@@ -2,9 +2,7 @@
 // without a plan: against each other and against the computer.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <functional>
-#include <iostream>
 
 #include "computer/computadora.h"
 #include "tests/apoyo/diario.h"
@@ -75,8 +73,6 @@ class Atolondrado {
 struct Cuenta {
     int blancas = 0;                                ///< games that White won
     int cafes = 0;                                  ///< games that Brown won
-    int tiros = 0;                                  ///< rolls of the longest game
-    int rechazos = 0;                               ///< bear-offs of the computer that were refused
     std::uint64_t firma = 14695981039346656037ULL;  ///< one number over all that was seen and said
 
     void Firmar(const std::string& texto) {
@@ -86,16 +82,13 @@ struct Cuenta {
     }
 };
 
-/// Enters what the last action brought; a refused bear-off beeps right before the pass.
+/// Enters what the last action brought.
 void Leer_Diario(Mesa& mesa, Cuenta& cuenta) {
-    std::string anterior;
     for (const std::string& linea : mesa.escritorio.Leer()) {
         cuenta.Firmar(linea);
-        if (anterior == BIP && linea.ends_with("brown chips passed")) ++cuenta.rechazos;
         if (linea == GANA_BLANCA) ++cuenta.blancas;
         if (linea == GANA_CAFE) ++cuenta.cafes;
         ASSERT_EQ(linea.find("You have to play"), std::string::npos);
-        anterior = linea;
     }
     cuenta.Firmar(Texto(mesa.partida));
 }
@@ -133,7 +126,6 @@ void Jugar_Partida(std::uint32_t semilla, Byte nivel, Cuenta& cuenta,
         Leer_Diario(mesa, cuenta);
         ASSERT_LT(mesa.escritorio.Pases() / PASES_DE_UN_TIRO, MAXIMO_DE_TIROS) << semilla;
     }
-    cuenta.tiros = std::max(cuenta.tiros, mesa.escritorio.Pases() / PASES_DE_UN_TIRO);
 }
 
 Cuenta Jugar_Partidas(int cuantas, Byte nivel) {
@@ -155,67 +147,43 @@ TEST(Partidas, Two_Hundred_At_Each_Level_Come_To_Their_Known_End) {
     EXPECT_GT(avanzado.cafes, avanzado.blancas) << "it should beat somebody without a plan";
 }
 
-struct Ofertas {
-    int puntos = 0, bandejas = 0, entradas = 0, dobles = 0, dado_mayor = 0;
-};
-
-/// Takes every chip that can be taken and drops it on every point and tray, each on a copy.
-void Probar_Destinos(const Mesa& mesa, Mesa& copia, Ofertas& ofertas) {
-    const Partida antes = mesa.partida;
-    const bool blanca = antes.Turno == BLANCA;
-    const Arreglo fichas = blanca ? Arreglo::Blanca : Arreglo::Cafe;
+/// Takes every chip that can be taken and drops it on every point and tray, each on a copy; returns
+/// how many drops were accepted.
+int Probar_Destinos(const Mesa& mesa, Mesa& copia) {
+    int aceptados = 0;
+    const Arreglo fichas = mesa.partida.Turno == BLANCA ? Arreglo::Blanca : Arreglo::Cafe;
     for (Control ficha{fichas, 0}; ficha.Index < FICHAS; ++ficha.Index) {
-        copia.partida = antes;
-        const Control tomada = copia.Presionar(ficha);
-        if (tomada != ficha) continue;  // not on top
+        copia.partida = mesa.partida;
+        if (copia.Presionar(ficha) != ficha) continue;  // not on top
         const Partida en_la_mano = copia.partida;
         const Lugares destinos = copia.juego.Destinos(ficha);
-        ASSERT_EQ(copia.partida, en_la_mano);
-        for (std::size_t i = 0; i < LUGARES; ++i) {
-            const auto lugar = static_cast<Integer>(i);
-            if (lugar == BARRA_BLANCA || lugar == BARRA_CAFE) continue;
-            const auto bandeja = static_cast<Integer>(lugar == BANDEJA_BLANCA ? 1 : 0);
+        EXPECT_EQ(copia.partida, en_la_mano);
+        for (Integer i = 0; i < static_cast<Integer>(LUGARES); ++i) {
+            if (i == BARRA_BLANCA || i == BARRA_CAFE) continue;
+            const bool blanca = i == BANDEJA_BLANCA;
             copia.partida = en_la_mano;
-            copia.Soltar(ficha, Es_Punto(lugar) ? Control{Arreglo::Triangle, lugar}
-                                                : Control{Arreglo::Adios, bandeja});
-            ASSERT_EQ(copia.partida.LST != antes.LST, destinos[i])
+            copia.Soltar(ficha, Nombrado(Es_Punto(i) ? std::to_string(i) : blanca ? "A1" : "A0"));
+            const bool aceptado = copia.partida.LST != mesa.partida.LST;
+            EXPECT_EQ(aceptado, destinos[static_cast<std::size_t>(i)])
                 << Texto(en_la_mano) << ", from " << en_la_mano.Origen << " to " << i;
-            if (!destinos[i]) continue;
-            const int distancia = std::abs(en_la_mano.Origen - (blanca ? PUNTOS : -1));
-            ++(Es_Punto(lugar) ? ofertas.puntos : ofertas.bandejas);
-            ofertas.entradas += Es_Punto(en_la_mano.Origen) ? 0 : 1;
-            ofertas.dobles += antes.Dobles > 0 ? 1 : 0;
-            if (!Es_Punto(lugar) && distancia != antes.Dado1 && distancia != antes.Dado2)
-                ++ofertas.dado_mayor;
+            aceptados += aceptado ? 1 : 0;
         }
         copia.escritorio.Leer();
     }
+    return aceptados;
 }
 
 TEST(Partidas, A_Drop_Is_Accepted_Exactly_Where_It_Was_Said_To_Be) {
-    Ofertas ofertas;
+    int aceptados = 0;
     Mesa copia;
     copia.escritorio.Sembrar(1);
     copia.escritorio.Contestar_Siempre();
-    for (std::uint32_t semilla = 0; semilla < 12; ++semilla) {
+    for (std::uint32_t semilla = 0; semilla < 12 && !HasFailure(); ++semilla) {
         Cuenta cuenta;
         Jugar_Partida(semilla, DOS_PERSONAS, cuenta,
-                      [&](const Mesa& mesa) { Probar_Destinos(mesa, copia, ofertas); });
-        if (HasFatalFailure()) return;
+                      [&](const Mesa& mesa) { aceptados += Probar_Destinos(mesa, copia); });
     }
-    for (const int vistas :
-         {ofertas.puntos, ofertas.bandejas, ofertas.entradas, ofertas.dobles, ofertas.dado_mayor}) {
-        EXPECT_GT(vistas, 10);
-    }
-}
-
-TEST(Partidas, DISABLED_Ten_Thousand_At_Each_Level) {
-    for (const Byte nivel : {DOS_PERSONAS, PRINCIPIANTE, AVANZADO}) {
-        const Cuenta cuenta = Jugar_Partidas(10000, nivel);
-        std::cout << "level " << int{nivel} << ": White " << cuenta.blancas << ", Brown "
-                  << cuenta.cafes << ", longest " << cuenta.tiros << " rolls, refused "
-                  << cuenta.rechazos << ", signature " << cuenta.firma << "\n";
-    }
+    EXPECT_GT(aceptados, 1000);
 }
 
 }  // namespace

@@ -131,25 +131,6 @@ TEST(Jugada, A_Drop_On_A_Chip_Is_A_Drop_On_Its_Point) {
     }
 }
 
-// The move as the computer makes it: neither turn nor direction are looked at.
-TEST(Jugada, The_Move_Itself) {
-    struct Movimiento {
-        Integer origen, color, ficha, destino;
-        const char* dados;
-    };
-    const Movimiento movimientos[] = {
-        {5, BLANCA, 14, 2, "0 1*"},   {12, 7, 14, 9, "0 1*"},  // any colour but White's is Brown
-        {5, BLANCA, -1, 8, "3* 1*"},  {5, BLANCA, 15, 8, "3* 1*"},
-        {0, BLANCA, 14, -1, "3* 1*"}, {23, BLANCA, 14, 24, "3* 1*"}};
-    for (const auto& [origen, color, ficha, destino, dados] : movimientos) {
-        Mesa mesa("B 5x15 | C 12x15 | dice 3 1");
-        mesa.juego.Poner_Origen(origen);
-        mesa.juego.Mover(color, ficha, destino);
-        EXPECT_EQ(Dados_De(mesa.partida), dados) << destino;
-        EXPECT_EQ(Faltas(mesa.partida), Diario{}) << destino;
-    }
-}
-
 // The count is made before the stacks change; a right once given is not taken back.
 TEST(Jugada, The_Fifteenth_Chip_Home_Opens_The_Tray) {
     const char* const llegadas[][3] = {
@@ -181,18 +162,17 @@ TEST(Jugada, The_Fifteenth_Chip_Home_Opens_The_Tray) {
 // All fifteen from one point, by a double that is renewed before each: the places in the tray are
 // part of what a valid position is.
 TEST(Jugada, The_Last_Chip_Off_Wins_And_Leaves_The_Dice) {
-    const char* const finales[][5] = {
-        {"B 23x15 | C 12x15 | home B | dice 1 1", "23/A1", GANA_BLANCA, "C0", "1* 1* x1"},
-        {"turn C | C 0x15 | B 12x15 | home C | dice 1 1", "0/A0", GANA_CAFE, "B0", "1* 1* x1"},
-        {"B 23x1 | C 12x15 | dice 1 4", "23/A1", GANA_BLANCA, "C0", "0 4*"},
-        {"turn C | C 0x1 | B 12x15 | dice 0 4", "0/A0", GANA_CAFE, "B0", "0 0"},
+    const char* const finales[][4] = {
+        {"B 23x15 | C 12x15 | home B | dice 1 1", "23/A1", GANA_BLANCA, "1* 1* x1"},
+        {"turn C | C 0x15 | B 12x15 | home C | dice 1 1", "0/A0", GANA_CAFE, "1* 1* x1"},
+        {"B 23x1 | C 12x15 | dice 1 4", "23/A1", GANA_BLANCA, "0 4*"},
+        {"turn C | C 0x1 | B 12x15 | dice 0 4", "0/A0", GANA_CAFE, "0 0"},
     };
-    for (const auto& [posicion, accion, caja, pulsa, dados] : finales) {
+    for (const auto& [posicion, accion, caja, dados] : finales) {
         SCOPED_TRACE(posicion);
         Mesa mesa(posicion);
         const bool doble = mesa.partida.Dobles > 0;
-        Boolean jugando_en_la_caja = False;
-        mesa.escritorio.Contestar(button::Ok, [&] { jugando_en_la_caja = mesa.partida.Jugando; });
+        mesa.escritorio.Contestar(button::Ok, [&] { EXPECT_EQ(mesa.partida.Jugando, True); });
         while (mesa.partida.Jugando != False && !testing::Test::HasFailure()) {
             EXPECT_EQ(mesa.escritorio.Leer(), Diario{});
             if (doble) mesa.partida.Dobles = 2;
@@ -200,27 +180,16 @@ TEST(Jugada, The_Last_Chip_Off_Wins_And_Leaves_The_Dice) {
             EXPECT_EQ(Faltas(mesa.partida), Diario{});
         }
         EXPECT_EQ(mesa.escritorio.Leer(), (Diario{Suena("applaus"), caja}));
-        EXPECT_EQ(jugando_en_la_caja, True);
         EXPECT_EQ(mesa.partida.Turno, BLANCA);
         EXPECT_EQ(Dados_De(mesa.partida), dados);
-        EXPECT_EQ(mesa.escritorio.Pases(), 0);
-
-        mesa.escritorio.Contestar();
+        EXPECT_EQ(mesa.escritorio.Pases(), 0) << "nobody rolls";
         mesa.Hacer("pass");
-        mesa.Hacer(pulsa);
-        EXPECT_EQ(mesa.escritorio.Leer(), (Diario{BIP, SIN_JUEGO}));
+        EXPECT_EQ(mesa.escritorio.Leer(), Diario{});
     }
 }
 
-constexpr Integer NINGUNA = 6;  // a point that no press takes a chip from
-
-TEST(Jugada, An_Unknown_Refusal_Only_Sounds) {
-    Mesa mesa;
-    for (const Integer codigo : {Integer{-1}, Integer{3}}) mesa.juego.MsgError(codigo);
-    EXPECT_EQ(mesa.escritorio.Leer(), (Diario{BIP, BIP}));
-}
-
 TEST(Arrastre, What_A_Press_Picks_Up) {
+    constexpr Integer NINGUNA = 6;  // a point that no press takes a chip from
     struct Prension {
         const char *posicion, *ficha;
         Diario diario;
@@ -243,63 +212,53 @@ TEST(Arrastre, What_A_Press_Picks_Up) {
         {barra, "B13", {BIP}},
         {barra_cafe, "C14", {"arrastra Cafe(14)"}, ORIGEN_BARRA_CAFE},
         {barra_cafe, "C13", {BIP}},
-        // The bar of the other side binds nobody.
-        {"B 0x15 | C 12x14 bar1", "B3", {"arrastra Blanca(14)"}, 0},
-        {"B 20x14 | C 12x15", "B14", {}},  // borne off
+        {"B 0x15 | C 12x14 bar1", "B3", {"arrastra Blanca(14)"}, 0},  // the other side's bar
+        {"B 20x14 | C 12x15", "B14", {}},                             // borne off
         {blancas, "B15", {}},
     };
-    for (const Prension& prension : prensiones) {
-        SCOPED_TRACE(std::string(prension.posicion) + ": " + prension.ficha);
-        Mesa mesa(prension.posicion);
+    for (const auto& [posicion, nombre, diario, origen, jugando] : prensiones) {
+        SCOPED_TRACE(std::string(posicion) + ": " + nombre);
+        Mesa mesa(posicion);
         mesa.escritorio.Contestar_Siempre();
-        mesa.partida.Jugando = prension.jugando;
+        mesa.partida.Jugando = jugando;
         mesa.partida.Origen = NINGUNA;
-        const Control ficha{*prension.ficha == 'B' ? Arreglo::Blanca : Arreglo::Cafe,
-                            static_cast<Integer>(std::stoi(prension.ficha + 1))};
+        const Control ficha = Nombrado(nombre);
+        EXPECT_EQ(mesa.juego.Se_Puede_Tomar(ficha), origen != NINGUNA);
         for (const Integer otro_boton : {Integer{2}, Integer{3}}) mesa.Presionar(ficha, otro_boton);
-        EXPECT_EQ(mesa.juego.Se_Puede_Tomar(ficha), prension.origen != NINGUNA);
         EXPECT_EQ(mesa.partida.Origen, NINGUNA);
         mesa.Presionar(ficha);
-        EXPECT_EQ(mesa.escritorio.Leer(), prension.diario);
-        EXPECT_EQ(mesa.partida.Origen, prension.origen);
+        EXPECT_EQ(mesa.escritorio.Leer(), diario);
+        EXPECT_EQ(mesa.partida.Origen, origen);
     }
 }
 
-TEST(Arrastre, Only_The_Chip_That_Was_Taken_Can_Be_Dropped) {
+TEST(Arrastre, Only_The_Chip_That_Was_Taken_Can_Be_Dropped_And_Only_On_What_Is_There) {
     for (const bool blanca : {true, false}) {
         Mesa mesa(blanca ? "B 0x5 9x10 | C 23x15 | dice 3 1" : "turn C | C 0x5 9x10 | B 23x15");
         const Control tomada = mesa.Hacer(blanca ? "B5" : "C5");
         mesa.escritorio.Leer();
         const Partida antes = mesa.partida;
-        const Integer destino = blanca ? 12 : 8;
-        for (const Arreglo nombre :
-             {Arreglo::Ninguno, Arreglo::Blanca, Arreglo::Cafe, Arreglo::Dado}) {
+        const Control destino = Nombrado(blanca ? "12" : "8");
+        for (const Arreglo nombre : {Arreglo::Ninguno, Arreglo::Blanca, Arreglo::Cafe}) {
             for (Integer index = -1; index < 16; ++index) {
-                if (tomada == Control{nombre, index}) continue;
-                mesa.Soltar({nombre, index}, {Arreglo::Triangle, destino});
-                mesa.Soltar({nombre, index}, {Arreglo::Adios, 1});
+                if (tomada != Control{nombre, index}) mesa.Soltar({nombre, index}, destino);
             }
         }
-        mesa.Soltar(tomada, {Arreglo::Blanca, 15});
-        mesa.Soltar(tomada, {Arreglo::Cafe, -1});
+        for (const char* nada : {"B15", "C-1", "A-1", "A0", "A1", "A2"}) {  // the trays are hidden
+            mesa.Soltar(tomada, Nombrado(nada));
+        }
         // An empty bar holds no chip, whatever its number.
         mesa.juego.Poner_Origen(blanca ? ORIGEN_BARRA_BLANCA : ORIGEN_BARRA_CAFE);
-        const Integer entrada = blanca ? 2 : 21;  // that the 3 pays
-        mesa.Soltar({tomada.Nombre, -1}, {Arreglo::Triangle, entrada});
+        mesa.Soltar({tomada.Nombre, -1}, Nombrado(blanca ? "2" : "21"));  // that the 3 pays
         mesa.juego.Poner_Origen(antes.Origen);
-        // Trays that are hidden, and none at all.
-        for (Integer bandeja = -1; bandeja < 3; ++bandeja) {
-            mesa.Soltar(tomada, {Arreglo::Adios, bandeja});
-        }
         EXPECT_TRUE(mesa.partida == antes) << Texto(mesa.partida);
         EXPECT_EQ(mesa.escritorio.Leer(), Diario{});
     }
-    // Of two on the bar, the one below.
     Mesa mesa("B bar2 9x13 | C 23x15 | dice 3 1");
-    ASSERT_EQ(mesa.Presionar({Arreglo::Blanca, 1}), (Control{Arreglo::Blanca, 1}));
+    ASSERT_EQ(mesa.Hacer("B1"), Nombrado("B1"));
     const Partida antes = mesa.partida;
-    mesa.Soltar({Arreglo::Blanca, 0}, {Arreglo::Triangle, 2});
-    EXPECT_TRUE(mesa.partida == antes) << Texto(mesa.partida);
+    mesa.Soltar(Nombrado("B0"), Nombrado("2"));
+    EXPECT_TRUE(mesa.partida == antes) << "the lower one of two on the bar";
 }
 
 TEST(Arrastre, The_Image_Under_A_Place) {

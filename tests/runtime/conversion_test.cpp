@@ -6,8 +6,6 @@
 #include <limits>
 #include <vector>
 
-#include "runtime/random.h"
-
 namespace corvanda {
 namespace {
 
@@ -42,13 +40,6 @@ TEST(Conversion, Str_Keeps_A_Place_For_The_Sign) {
     EXPECT_EQ(Str(0), " 0");
     EXPECT_EQ(Str(14), " 14");
     EXPECT_EQ(Str(-32768), "-32768");
-}
-
-TEST(Random, A_Seed_Repeats_Its_Numbers) {
-    Random uno(7), mismo(7), otro(8);
-    const double r = uno.Rnd();
-    EXPECT_EQ(mismo.Rnd(), r);
-    EXPECT_NE(otro.Rnd(), r);
 }
 
 }  // namespace
