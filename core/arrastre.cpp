@@ -1,30 +1,11 @@
 // Which chip a press picks up, and what a drop on a point or on a chip means.
 #include <cstdlib>
 
+#include "core/bandos.h"
 #include "core/comprobada.h"
 #include "core/juego.h"
 
 namespace corvanda {
-
-namespace {
-
-Integer Color_De(Control ficha) {
-    return ficha.Nombre == Arreglo::Blanca ? BLANCA : CAFE;
-}
-
-bool Hacia_Atras(Integer color, Integer origen, Integer destino) {
-    return color == BLANCA ? destino < origen : destino > origen;
-}
-
-Integer Barra_De(Integer color) {
-    return color == BLANCA ? BARRA_BLANCA : BARRA_CAFE;
-}
-
-Arreglo Fichas_De(Integer color) {
-    return color == BLANCA ? Arreglo::Blanca : Arreglo::Cafe;
-}
-
-}  // namespace
 
 void Juego::Blanca_MouseDown(Integer Index, Integer Button) {
     Presionar(BLANCA, Index, Button);
@@ -36,20 +17,21 @@ void Juego::Cafe_MouseDown(Integer Index, Integer Button) {
 
 void Juego::Presionar(Integer color, Integer Index, Integer Button) {
     const Comprobada accion(*this);
-    const Image* ficha = Imagen_De(partida, {Fichas_De(color), Index});
+    const Bando& bando = Bando_De(color);
+    const Image* ficha = Imagen_De(partida, {bando.fichas, Index});
     if (Button != LeftButton || ficha == nullptr || !ficha->Enabled || Entrada_Cerrada()) return;
     if (!Puede_Jugar(color)) {
         MsgError(1);
         return;
     }
-    const Pila& barra = Pila_En(partida, Barra_De(color));
+    const Pila& barra = Pila_En(partida, bando.barra);
     if (barra.Cuenta() == 0) {
         partida.Origen = GetNumber(*ficha);
         const Integer tope = Pila_En(partida, partida.Origen).Tope();
-        puertos.Tablero.Iniciar_Arrastre({Fichas_De(color), tope});
+        puertos.Tablero.Iniciar_Arrastre({bando.fichas, tope});
     } else if (Index == barra.Tope()) {
-        partida.Origen = color == BLANCA ? ORIGEN_BARRA_BLANCA : ORIGEN_BARRA_CAFE;
-        puertos.Tablero.Iniciar_Arrastre({Fichas_De(color), Index});
+        partida.Origen = bando.entrada;
+        puertos.Tablero.Iniciar_Arrastre({bando.fichas, Index});
     } else {
         Beeper();
     }
@@ -69,25 +51,25 @@ bool Juego::Puede_Jugar(Integer color) const {
 bool Juego::Se_Puede_Tomar(Control ficha) const {
     const Image* imagen = Imagen_De(partida, ficha);
     if (imagen == nullptr || !imagen->Enabled || !Recibe_Presiones(ficha.Nombre)) return false;
-    if (Entrada_Cerrada() || !Puede_Jugar(Color_De(ficha))) return false;
-    const Pila& barra = Pila_En(partida, Barra_De(Color_De(ficha)));
+    const Bando& bando = Bando_De(ficha);
+    if (Entrada_Cerrada() || !Puede_Jugar(bando.color)) return false;
+    const Pila& barra = Pila_En(partida, bando.barra);
     return barra.Cuenta() == 0 || barra.Tope() == ficha.Index;
 }
 
 Lugares Juego::Destinos(Control ficha) const {
     Lugares destinos;
     if (!Puede_Soltar(ficha)) return destinos;
-    const Integer color = Color_De(ficha);
+    const Bando& bando = Bando_De(ficha);
     for (Integer p = 0; p < PUNTOS; ++p) {
         const auto distancia = static_cast<Integer>(std::abs(partida.Origen - p));
-        destinos[static_cast<std::size_t>(p)] = !Hacia_Atras(color, partida.Origen, p) &&
-                                                !Cerrado(partida, p, color) &&
+        destinos[static_cast<std::size_t>(p)] = !bando.Hacia_Atras(partida.Origen, p) &&
+                                                !Cerrado(partida, p, bando.color) &&
                                                 Dado_Que_Paga(distancia) != NINGUN_DADO;
     }
-    const auto bandeja = static_cast<Integer>(color == BLANCA ? 1 : 0);
-    const auto lugar = static_cast<std::size_t>(color == BLANCA ? BANDEJA_BLANCA : BANDEJA_CAFE);
-    const bool abierta = Imagen_De(partida, {Arreglo::Adios, bandeja})->Visible;
-    destinos[lugar] = abierta && Dado_Que_Saca(bandeja) != NINGUN_DADO;
+    const bool abierta = Imagen_De(partida, {Arreglo::Adios, bando.adios})->Visible;
+    destinos[static_cast<std::size_t>(bando.bandeja)] =
+        abierta && Dado_Que_Saca(bando.adios) != NINGUN_DADO;
     return destinos;
 }
 
@@ -111,7 +93,7 @@ void Juego::Soltar_En_Ficha(Control blanco, Control fuente) {
     if (imagen == nullptr || !Puede_Soltar(fuente)) return;
     const Integer destino = GetNumber(*imagen);
     const bool ajena = fuente.Nombre != blanco.Nombre;
-    const bool atras = Hacia_Atras(Color_De(fuente), partida.Origen, destino);
+    const bool atras = Bando_De(fuente).Hacia_Atras(partida.Origen, destino);
     if (ajena && !atras && Pila_En(partida, destino).Cuenta() > 1) {
         MsgError(0);
         return;
@@ -122,31 +104,30 @@ void Juego::Soltar_En_Ficha(Control blanco, Control fuente) {
 void Juego::Soltar(Control fuente, Integer destino) {
     const Comprobada accion(*this);
     if (!Puede_Soltar(fuente)) return;
-    const Integer color = Color_De(fuente);
-    if (Hacia_Atras(color, partida.Origen, destino)) {
+    const Bando& bando = Bando_De(fuente);
+    if (bando.Hacia_Atras(partida.Origen, destino)) {
         MsgError(2);
         return;
     }
-    Mover(color, fuente.Index, destino);
+    Mover(bando.color, fuente.Index, destino);
 }
 
 // A drag may outlive the turn it began in; such a drop means nothing any more.
 bool Juego::Puede_Soltar(Control fuente) const {
     if (Entrada_Cerrada() || partida.Jugando == False) return false;
-    return partida.Turno == Color_De(fuente) && Es_Tope_De_Origen(fuente);
+    return partida.Turno == Bando_De(fuente).color && Es_Tope_De_Origen(fuente);
 }
 
 bool Juego::Es_Tope_De_Origen(Control fuente) const {
     if (!Recibe_Presiones(fuente.Nombre)) return false;
-    const Integer color = Color_De(fuente);
+    const Bando& bando = Bando_De(fuente);
     const Integer origen = partida.Origen;
     if (Es_Punto(origen)) {
-        const bool suyo = Punto_En(partida, origen).Owner == color;
+        const bool suyo = Punto_En(partida, origen).Owner == bando.color;
         return suyo && Pila_En(partida, origen).Tope() == fuente.Index;
     }
-    const Integer barra = color == BLANCA ? ORIGEN_BARRA_BLANCA : ORIGEN_BARRA_CAFE;
-    const Pila& pila = Pila_En(partida, Barra_De(color));
-    return origen == barra && pila.Cuenta() > 0 && pila.Tope() == fuente.Index;
+    const Pila& pila = Pila_En(partida, bando.barra);
+    return origen == bando.entrada && pila.Cuenta() > 0 && pila.Tope() == fuente.Index;
 }
 
 Integer Juego::GetNumber(const Image& Imagen) const {
@@ -157,8 +138,7 @@ Integer Juego::GetNumber(const Image& Imagen) const {
         punto = k;
         break;
     }
-    const bool abajo = Imagen.Top > partida.Triangle[23].Top - partida.Cafe[0].Height;
-    return abajo ? static_cast<Integer>(23 - punto) : punto;
+    return Esta_Abajo(partida, Imagen) ? static_cast<Integer>(PUNTOS - 1 - punto) : punto;
 }
 
 }  // namespace corvanda

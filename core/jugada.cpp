@@ -1,6 +1,7 @@
 // The move of one chip to a point.
 #include <cstdlib>
 
+#include "core/bandos.h"
 #include "core/juego.h"
 
 namespace corvanda {
@@ -22,11 +23,8 @@ void Juego::Mover(Integer Color, Integer Ficha, Integer Destino) {
     }
 
     // Counted before the stacks change: the moving chip is still seen at Origen.
-    if (Color == BLANCA && Destino >= 18 && partida.Blanca_En_Casa == False) {
-        Checar(BLANCA);
-    } else if (Color == CAFE && Destino <= 5 && partida.Cafe_En_Casa == False) {
-        Checar(CAFE);
-    }
+    const Bando& bando = Bando_De(Color);
+    if (bando.Es_Casa(Destino) && partida.*bando.en_casa == False) Checar(bando.color);
     const bool sola = Pila_En(partida, Destino).Cuenta() == 1;
     if (!colocando && sola && Punto_En(partida, Destino).Owner != Color) Comer(Color, Destino);
 
@@ -60,28 +58,22 @@ void Juego::Comer(Integer Color, Integer Destino) {
     Efecto("cannon.Wav");
     Pila& pila = Pila_En(partida, Destino);
     const Integer comida = pila.Tope();
-    const bool es_cafe = Color == BLANCA;
-    const Control ficha{es_cafe ? Arreglo::Cafe : Arreglo::Blanca, comida};
+    const Bando& bando = Contrario(Bando_De(Color));
+    const Control ficha{bando.fichas, comida};
     Punto_En(partida, Destino).Y = Imagen(ficha).Top;
-
-    const Image& tablero = partida.Tablero[0];
-    if (es_cafe) {
-        Colocar(ficha, tablero.Left - partida.Cafe[0].Width, partida.Triangle[23].Top);
-    } else {
-        const double top = static_cast<double>(tablero.Height) / 2 -
-                           1.5 * static_cast<double>(partida.Cafe[0].Height);
-        Colocar(ficha, tablero.Left - partida.Blanca[0].Width, static_cast<Single>(top));
-    }
-    Pila_En(partida, es_cafe ? BARRA_CAFE : BARRA_BLANCA).Poner(comida);
+    const Esquina esquina = Esquina_De_Barra(partida, bando);
+    Colocar(ficha, esquina.Left, esquina.Top);
+    Pila_En(partida, bando.barra).Poner(comida);
     pila.Quitar();
 }
 
 void Juego::Llevar_Ficha(Integer Color, Integer Ficha, Integer Destino) {
-    const Control ficha{Color == BLANCA ? Arreglo::Blanca : Arreglo::Cafe, Ficha};
+    const Bando& bando = Bando_De(Color);
+    const Control ficha{bando.fichas, Ficha};
     if (Es_Punto(partida.Origen)) Punto_En(partida, partida.Origen).Y = Imagen(ficha).Top;
     Punto& punto = Punto_En(partida, Destino);
     Colocar(ficha, Imagen({Arreglo::Triangle, Destino}).Left, punto.Y);
-    punto.Owner = Color == BLANCA ? BLANCA : CAFE;
+    punto.Owner = bando.color;
 }
 
 // A point's next place: one white chip's height further, whatever the colour, and back to the base
@@ -112,18 +104,17 @@ void Juego::Sacar_De_Origen() {
 }
 
 void Juego::Checar(Integer Color) {
-    const bool cafe = Color == CAFE;
-    const auto primero = static_cast<Integer>(cafe ? 0 : 18);
+    const Bando& bando = Bando_De(Color == CAFE ? CAFE : BLANCA);
     Byte cuenta = 0;
-    for (Integer i = primero; i < primero + 6; ++i) {
-        if (Punto_En(partida, i).Owner != (cafe ? CAFE : BLANCA)) continue;
+    for (Integer i = bando.casa; bando.Es_Casa(i); ++i) {
+        if (Punto_En(partida, i).Owner != bando.color) continue;
         cuenta = static_cast<Byte>(cuenta + Pila_En(partida, i).Cuenta());
     }
     // The moving chip counts once: here when it comes from outside, else where it stands.
-    if (cafe ? partida.Origen >= 6 : partida.Origen < 18) ++cuenta;
+    if (bando.Fuera_De_Casa(partida.Origen)) ++cuenta;
     if (cuenta != FICHAS) return;
-    (cafe ? partida.Cafe_En_Casa : partida.Blanca_En_Casa) = True;
-    Mostrar({Arreglo::Adios, static_cast<Integer>(cafe ? 0 : 1)}, true);
+    partida.*bando.en_casa = True;
+    Mostrar({Arreglo::Adios, bando.adios}, true);
 }
 
 }  // namespace corvanda

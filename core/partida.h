@@ -24,6 +24,7 @@ inline constexpr Integer NADIE = 0;
 
 inline constexpr Integer PUNTOS = 24;  ///< points of the board
 inline constexpr Integer FICHAS = 15;  ///< chips of a side
+inline constexpr Integer PUNTOS_DE_CASA = 6;
 
 /// Locations of LST beyond the points.
 inline constexpr Integer BARRA_CAFE = 24;

@@ -2,6 +2,7 @@
 // the bar and plain moves between points, not bearing off.
 #include <algorithm>
 
+#include "core/bandos.h"
 #include "core/comprobada.h"
 #include "core/juego.h"
 
@@ -12,9 +13,7 @@ void Juego::mnuPasar_Click() {
     if (partida.Jugando == False || Entrada_Cerrada()) return;
     const Integer mayor = std::max(partida.Dado1, partida.Dado2);
     const Integer menor = std::min(partida.Dado1, partida.Dado2);
-    const bool cafe_en_barra = Pila_En(partida, BARRA_CAFE).Cuenta() > 0;
-    const bool blanca_en_barra = Pila_En(partida, BARRA_BLANCA).Cuenta() > 0;
-    if ((cafe_en_barra && partida.Turno == CAFE) || (blanca_en_barra && partida.Turno == BLANCA)) {
+    if (Pila_En(partida, Bando_De(partida.Turno).barra).Cuenta() > 0) {
         Pasar_Desde_Barra(mayor, menor);
     } else {
         Pasar_Desde_Puntos(mayor, menor);
@@ -22,10 +21,10 @@ void Juego::mnuPasar_Click() {
 }
 
 void Juego::Pasar_Desde_Barra(Integer mayor, Integer menor) {
-    const bool cafe = partida.Turno == CAFE;
+    const Bando& bando = Bando_De(partida.Turno);
     const auto entra = [&](Integer dado) {
-        const auto punto = static_cast<Integer>(cafe ? PUNTOS - dado : dado - 1);
-        return !Cerrado(partida, punto, partida.Turno);
+        const auto punto = static_cast<Integer>(bando.entrada + bando.color * dado);
+        return !Cerrado(partida, punto, bando.color);
     };
     const std::string texto = "You have to play the ";
     if (entra(mayor)) {
@@ -33,8 +32,8 @@ void Juego::Pasar_Desde_Barra(Integer mayor, Integer menor) {
     } else if (menor == 0 || !entra(menor)) {
         // The article that is missing here, and the blank in the other question, are part of the
         // texts.
-        Aceptar_Pase(cafe ? "The player with brown chips passed"
-                          : "The player with the white chips passed");
+        Aceptar_Pase(bando.color == CAFE ? "The player with brown chips passed"
+                                         : "The player with the white chips passed");
     } else {
         Negar_Pase(texto, menor);
     }

@@ -1,23 +1,12 @@
 // Bearing off, and the end of a game.
 #include <cstdlib>
 
+#include "core/bandos.h"
 #include "core/comprobada.h"
 #include "core/juego.h"
 #include "runtime/conversion.h"
 
 namespace corvanda {
-
-namespace {
-
-Integer Bandeja_De(Integer color) {
-    return color == BLANCA ? 1 : 0;
-}
-
-Integer Pila_De_Bandeja(Integer color) {
-    return color == BLANCA ? BANDEJA_BLANCA : BANDEJA_CAFE;
-}
-
-}  // namespace
 
 void Juego::Adios_DragDrop(Integer Index, Control Source) {
     const Comprobada accion(*this);
@@ -32,7 +21,7 @@ void Juego::Adios_DragDrop(Integer Index, Control Source) {
     Efecto("Pop2.Wav");
     Llevar_A_Bandeja(Source.Index);
     Sacar_De_Origen();
-    Pila_En(partida, Pila_De_Bandeja(partida.Turno)).Poner(Source.Index);
+    Pila_En(partida, Bando_De(partida.Turno).bandeja).Poner(Source.Index);
 
     if (Pila_En(partida, BANDEJA_BLANCA).Cuenta() == FICHAS) {
         Terminar("The player with White Chips Won");
@@ -47,9 +36,9 @@ void Juego::Adios_DragDrop(Integer Index, Control Source) {
 // before the second; else the larger of those shown, when it is large enough and no chip of either
 // side stands farther back in the home board.
 Integer Juego::Dado_Que_Saca(Integer bandeja) const {
-    if (bandeja != Bandeja_De(partida.Turno) || !Es_Punto(partida.Origen)) return NINGUN_DADO;
-    const auto fuera = static_cast<Integer>(bandeja == 1 ? PUNTOS : -1);
-    const auto distancia = static_cast<Integer>(std::abs(partida.Origen - fuera));
+    const Bando& bando = Bando_De(partida.Turno);
+    if (bandeja != bando.adios || !Es_Punto(partida.Origen)) return NINGUN_DADO;
+    const auto distancia = static_cast<Integer>(std::abs(partida.Origen - bando.salida));
     const Integer exacto = Dado_Que_Paga(distancia);
     if (exacto != NINGUN_DADO) return exacto;
     const bool primero = partida.Dado[0].Visible;
@@ -64,24 +53,21 @@ Integer Juego::Dado_Que_Saca(Integer bandeja) const {
 }
 
 bool Juego::Hay_Ficha_Atras() const {
-    const bool blanca = partida.Turno == BLANCA;
-    const int desde = blanca ? 18 : partida.Origen + 1;
-    const int hasta = blanca ? partida.Origen - 1 : 5;
-    for (int i = desde; i <= hasta; ++i) {
-        const auto punto = static_cast<Integer>(i);
-        if (Pila_En(partida, punto).Cuenta() > 0 && Punto_En(partida, punto).Owner != NADIE) {
-            return true;
-        }
+    const Bando& bando = Bando_De(partida.Turno);
+    for (Integer i = bando.casa; bando.Es_Casa(i); ++i) {
+        const bool ocupado =
+            Pila_En(partida, i).Cuenta() > 0 && Punto_En(partida, i).Owner != NADIE;
+        if (ocupado && bando.Hacia_Atras(partida.Origen, i)) return true;
     }
     return false;
 }
 
 void Juego::Llevar_A_Bandeja(Integer ficha) {
-    const bool blanca = partida.Turno == BLANCA;
-    const Control control{blanca ? Arreglo::Blanca : Arreglo::Cafe, ficha};
-    const Image& bandeja = Imagen({Arreglo::Adios, Bandeja_De(partida.Turno)});
+    const Bando& bando = Bando_De(partida.Turno);
+    const Control control{bando.fichas, ficha};
+    const Image& bandeja = Imagen({Arreglo::Adios, bando.adios});
     const Image& imagen = Imagen(control);
-    Integer& altura = blanca ? partida.Altura_Blanca : partida.Altura_Cafe;
+    Integer& altura = partida.*bando.altura;
 
     Punto_En(partida, partida.Origen).Y = imagen.Top;
     Colocar(control, bandeja.Left + (bandeja.Width - imagen.Width) / 2, bandeja.Top + altura);

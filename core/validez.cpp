@@ -1,12 +1,18 @@
 // The invariants of a position between two actions, and its one-line form.
-#include <algorithm>
 #include <sstream>
 
-#include "core/control.h"
+#include "core/bandos.h"
 
 namespace corvanda {
 
 namespace {
+
+/// What a fault is told of: "Blanca(3)", "point 5", "tray 0", or a name without a number.
+struct Sujeto {
+    const char* nombre;
+    int numero = -1;
+    const char* cierre = "";
+};
 
 /// Collects what is wrong with one position.
 class Revision {
@@ -15,13 +21,11 @@ class Revision {
 
     std::vector<std::string> Todo() {
         for (Integer p = 0; p < PUNTOS; ++p) Ver_Punto(p);
-        Ver_Barra(BARRA_CAFE, Arreglo::Cafe);
-        Ver_Barra(BARRA_BLANCA, Arreglo::Blanca);
-        Ver_Bandeja(BANDEJA_CAFE, Arreglo::Cafe, 0, partida.Altura_Cafe, partida.Cafe_En_Casa);
-        Ver_Bandeja(BANDEJA_BLANCA, Arreglo::Blanca, 1, partida.Altura_Blanca,
-                    partida.Blanca_En_Casa);
-        Ver_Cuentas(vistas_blancas, "white");
-        Ver_Cuentas(vistas_cafes, "brown");
+        for (const Bando& bando : BANDOS) {
+            Ver_Barra(bando);
+            Ver_Bandeja(bando);
+            Ver_Cuentas(bando);
+        }
         Ver_Dado(partida.Dado[0], partida.Dado1, "Dado1");
         Ver_Dado(partida.Dado[1], partida.Dado2, "Dado2");
         Ver_Banderas();
@@ -32,29 +36,27 @@ class Revision {
     using Vistas = std::array<int, FICHAS>;
 
     // The words are only put together when something is wrong: positions are checked very often.
-    template <typename Falta>
-    void Exigir(bool cierto, const Falta& falta) {
-        if (!cierto) faltas.push_back(falta());
+    void Exigir(bool cierto, const Sujeto& sujeto, const char* falta) {
+        if (cierto) return;
+        const std::string numero = sujeto.numero < 0 ? "" : std::to_string(sujeto.numero);
+        faltas.push_back(sujeto.nombre + numero + sujeto.cierre + falta);
     }
 
-    static std::string Nombre(Arreglo color, Integer ficha) {
-        return (color == Arreglo::Blanca ? "Blanca(" : "Cafe(") + std::to_string(ficha) + ")";
+    static Sujeto Ficha(const Bando& bando, int ficha) {
+        return {bando.color == BLANCA ? "Blanca(" : "Cafe(", ficha, ")"};
     }
+    Vistas& Vistas_De(const Bando& bando) { return vistas.at(bando.color == BLANCA ? 0 : 1); }
 
     // One chip of a stack: a number that exists, counted once, its image in its place.
-    void Ver_Ficha(Arreglo color, Integer ficha, Single left, Single top, bool enabled) {
-        const Image* imagen = Imagen_De(partida, {color, ficha});
-        Exigir(imagen != nullptr,
-               [&] { return std::string(Nombre(color, ficha) + " does not exist"); });
+    void Ver_Ficha(const Bando& bando, Integer numero, Esquina esquina, bool enabled) {
+        const Image* imagen = Imagen_De(partida, {bando.fichas, numero});
+        const Sujeto ficha = Ficha(bando, numero);
+        Exigir(imagen != nullptr, ficha, " does not exist");
         if (imagen == nullptr) return;
-        Vistas& vistas = color == Arreglo::Blanca ? vistas_blancas : vistas_cafes;
-        ++vistas.at(static_cast<std::size_t>(ficha));
-        Exigir(imagen->Left == left && imagen->Top == top,
-               [&] { return std::string(Nombre(color, ficha) + " is misplaced"); });
-        Exigir(imagen->Enabled == enabled, [&] {
-            return std::string(Nombre(color, ficha) + " is wrongly enabled or disabled");
-        });
-        Exigir(imagen->Visible, [&] { return std::string(Nombre(color, ficha) + " is hidden"); });
+        ++Vistas_De(bando).at(static_cast<std::size_t>(numero));
+        Exigir(imagen->Left == esquina.Left && imagen->Top == esquina.Top, ficha, " is misplaced");
+        Exigir(imagen->Enabled == enabled, ficha, " is wrongly enabled or disabled");
+        Exigir(imagen->Visible, ficha, " is hidden");
     }
 
     Single Base(Integer punto) const {
@@ -75,117 +77,99 @@ class Revision {
     void Ver_Punto(Integer p) {
         const Pila& pila = Pila_En(partida, p);
         const Punto& punto = Punto_En(partida, p);
-        const auto donde = [p] { return "point " + std::to_string(p); };
         const bool con_dueno = punto.Owner == BLANCA || punto.Owner == CAFE;
-        Exigir(pila.Cuenta() == 0 ? punto.Owner == NADIE : con_dueno,
-               [&] { return std::string(donde() + ": wrong owner"); });
-        const Arreglo color = punto.Owner == BLANCA ? Arreglo::Blanca : Arreglo::Cafe;
+        Exigir(pila.Cuenta() == 0 ? punto.Owner == NADIE : con_dueno, {"point ", p},
+               ": wrong owner");
+        const Bando& bando = Bando_De(punto.Owner);
         const Single left = partida.Triangle.at(static_cast<std::size_t>(p)).Left;
         Single y = Base(p);
         for (auto item = static_cast<Integer>(pila.Cuenta() - 1); item >= 0; --item) {
-            Ver_Ficha(color, pila.Ficha(item), left, y, true);
+            Ver_Ficha(bando, pila.Ficha(item), {left, y}, true);
             y = Siguiente(p, y);
         }
-        Exigir(punto.Y == y,
-               [&] { return std::string(donde() + ": wrong height for the next chip"); });
-        Ver_Orden(color, pila);
+        Exigir(punto.Y == y, {"point ", p}, ": wrong height for the next chip");
+        Ver_Orden(bando, pila);
     }
 
-    void Ver_Orden(Arreglo color, const Pila& pila) {
+    void Ver_Orden(const Bando& bando, const Pila& pila) {
         for (Integer item = 1; item < pila.Cuenta(); ++item) {
-            const Image* arriba =
-                Imagen_De(partida, {color, pila.Ficha(static_cast<Integer>(item - 1))});
-            const Image* abajo = Imagen_De(partida, {color, pila.Ficha(item)});
+            const auto encima = static_cast<Integer>(item - 1);
+            const Image* arriba = Imagen_De(partida, {bando.fichas, pila.Ficha(encima)});
+            const Image* abajo = Imagen_De(partida, {bando.fichas, pila.Ficha(item)});
             if (arriba == nullptr || abajo == nullptr) continue;
-            Exigir(arriba->ZOrder > abajo->ZOrder, [&] {
-                return std::string(Nombre(color, pila.Ficha(item)) +
-                                   " is drawn over the chip above it");
-            });
+            Exigir(arriba->ZOrder > abajo->ZOrder, Ficha(bando, pila.Ficha(item)),
+                   " is drawn over the chip above it");
         }
     }
 
-    void Ver_Barra(Integer lugar, Arreglo color) {
-        const Pila& pila = Pila_En(partida, lugar);
-        const Image& tablero = partida.Tablero[0];
-        const bool cafe = color == Arreglo::Cafe;
-        const Single left = tablero.Left - (cafe ? partida.Cafe[0] : partida.Blanca[0]).Width;
-        const Single top =
-            cafe ? partida.Triangle[23].Top : tablero.Height / 2 - 1.5F * partida.Cafe[0].Height;
+    void Ver_Barra(const Bando& bando) {
+        const Pila& pila = Pila_En(partida, bando.barra);
         for (Integer item = 0; item < pila.Cuenta(); ++item) {
-            Ver_Ficha(color, pila.Ficha(item), left, top, true);
+            Ver_Ficha(bando, pila.Ficha(item), Esquina_De_Barra(partida, bando), true);
         }
-        Ver_Orden(color, pila);
+        Ver_Orden(bando, pila);
     }
 
-    void Ver_Bandeja(Integer lugar, Arreglo color, std::size_t cual, Integer altura,
-                     Boolean en_casa) {
-        const Pila& pila = Pila_En(partida, lugar);
-        const Image& bandeja = partida.Adios.at(cual);
-        const Image& ficha = color == Arreglo::Cafe ? partida.Cafe[0] : partida.Blanca[0];
+    void Ver_Bandeja(const Bando& bando) {
+        const Pila& pila = Pila_En(partida, bando.bandeja);
+        const Image& bandeja = *Imagen_De(partida, {Arreglo::Adios, bando.adios});
+        const Image& ficha = *Imagen_De(partida, {bando.fichas, 0});
         const Single paso = (bandeja.Height - ficha.Height) / 15;
         const Single left = bandeja.Left + (bandeja.Width - ficha.Width) / 2;
         for (Integer item = 0; item < pila.Cuenta(); ++item) {
             const auto debajo = static_cast<Single>(pila.Cuenta() - 1 - item);
-            Ver_Ficha(color, pila.Ficha(item), left, bandeja.Top + debajo * paso, false);
+            Ver_Ficha(bando, pila.Ficha(item), {left, bandeja.Top + debajo * paso}, false);
         }
-        Ver_Orden(color, pila);
-        Exigir(static_cast<Single>(altura) == static_cast<Single>(pila.Cuenta()) * paso, [&] {
-            return std::string("tray " + std::to_string(cual) + ": wrong height for the next chip");
-        });
-        Exigir(bandeja.Visible == (en_casa != False), [&] {
-            return std::string("tray " + std::to_string(cual) +
-                               " is shown without its flag, or hidden with it");
-        });
-        Exigir(pila.Cuenta() == 0 || en_casa != False, [&] {
-            return std::string("tray " + std::to_string(cual) +
-                               " holds chips before all were home");
-        });
+        Ver_Orden(bando, pila);
+        const Sujeto tray{"tray ", bando.adios};
+        const auto altura = static_cast<Single>(partida.*bando.altura);
+        const bool en_casa = partida.*bando.en_casa != False;
+        Exigir(altura == static_cast<Single>(pila.Cuenta()) * paso, tray,
+               ": wrong height for the next chip");
+        Exigir(bandeja.Visible == en_casa, tray, " is shown without its flag, or hidden with it");
+        Exigir(pila.Cuenta() == 0 || en_casa, tray, " holds chips before all were home");
     }
 
-    void Ver_Cuentas(const Vistas& vistas, const std::string& color) {
-        for (std::size_t i = 0; i < vistas.size(); ++i) {
-            Exigir(vistas.at(i) == 1, [&] {
-                return std::string("the " + color + " chip " + std::to_string(i) + " stands in " +
-                                   std::to_string(vistas.at(i)) + " places");
-            });
+    void Ver_Cuentas(const Bando& bando) {
+        const Vistas& veces = Vistas_De(bando);
+        for (int i = 0; i < FICHAS; ++i) {
+            const int lugares = veces.at(static_cast<std::size_t>(i));
+            Exigir(lugares > 0, Ficha(bando, i), " stands nowhere");
+            Exigir(lugares < 2, Ficha(bando, i), " stands in several places");
         }
     }
 
-    void Ver_Dado(const Image& dado, Integer valor, const std::string& nombre) {
-        Exigir(valor >= 0 && valor <= 6, [&] { return std::string(nombre + " is out of range"); });
+    void Ver_Dado(const Image& dado, Integer valor, const char* nombre) {
+        Exigir(valor >= 0 && valor <= 6, {nombre}, " is out of range");
         if (!dado.Visible) return;
         const int cara = static_cast<int>(dado.Shown) - static_cast<int>(Picture::Dado1) + 1;
-        Exigir(valor == cara,
-               [&] { return std::string(nombre + " shows another face than its value"); });
+        Exigir(valor == cara, {nombre}, " shows another face than its value");
     }
 
     void Ver_Banderas() {
-        const auto bandera = [](Boolean valor) { return valor == True || valor == False; };
-        Exigir(bandera(partida.Jugando) && bandera(partida.Blanca_En_Casa) &&
-                   bandera(partida.Cafe_En_Casa) && bandera(partida.Sonido),
-               [&] { return std::string("a flag is neither -1 nor 0"); });
-        Exigir(partida.Turno >= CAFE && partida.Turno <= BLANCA,
-               [&] { return std::string("Turno is no colour"); });
-        Exigir(partida.Nivel <= ULTIMO_NIVEL, [&] { return std::string("Nivel is no level"); });
-        Exigir(partida.Dobles <= 2, [&] { return std::string("Dobles is above 2"); });
+        for (const Boolean valor :
+             {partida.Jugando, partida.Blanca_En_Casa, partida.Cafe_En_Casa, partida.Sonido}) {
+            Exigir(valor == True || valor == False, {"a flag"}, " is neither -1 nor 0");
+        }
+        Exigir(partida.Turno >= CAFE && partida.Turno <= BLANCA, {"Turno"}, " is no colour");
+        Exigir(partida.Nivel <= ULTIMO_NIVEL, {"Nivel"}, " is no level");
+        Exigir(partida.Dobles <= 2, {"Dobles"}, " is above 2");
         Exigir(partida.Origen >= ORIGEN_BARRA_BLANCA && partida.Origen <= ORIGEN_BARRA_CAFE,
-               [&] { return std::string("Origen is no place"); });
+               {"Origen"}, " is no place");
     }
 
     const Partida& partida;
     std::vector<std::string> faltas;
-    Vistas vistas_blancas{};
-    Vistas vistas_cafes{};
+    std::array<Vistas, 2> vistas{};
 };
 
-void Escribir_Fichas(std::ostream& salida, const Partida& partida, Integer color, Integer barra,
-                     Integer bandeja) {
+void Escribir_Fichas(std::ostream& salida, const Partida& partida, const Bando& bando) {
     for (Integer p = 0; p < PUNTOS; ++p) {
-        if (Punto_En(partida, p).Owner != color) continue;
+        if (Punto_En(partida, p).Owner != bando.color) continue;
         salida << ' ' << p << 'x' << Pila_En(partida, p).Cuenta();
     }
-    const Integer en_barra = Pila_En(partida, barra).Cuenta();
-    const Integer fuera = Pila_En(partida, bandeja).Cuenta();
+    const Integer en_barra = Pila_En(partida, bando.barra).Cuenta();
+    const Integer fuera = Pila_En(partida, bando.bandeja).Cuenta();
     if (en_barra > 0) salida << " barra x" << en_barra;
     if (fuera > 0) salida << " fuera x" << fuera;
 }
@@ -206,9 +190,9 @@ std::string Texto(const Partida& partida) {
     salida << "turno " << turno << ", dados " << partida.Dado1 << '+' << partida.Dado2
            << (partida.Dobles > 0 ? " dobles " + std::to_string(partida.Dobles) : "")
            << ", blancas";
-    Escribir_Fichas(salida, partida, BLANCA, BARRA_BLANCA, BANDEJA_BLANCA);
+    Escribir_Fichas(salida, partida, Bando_De(BLANCA));
     salida << ", cafes";
-    Escribir_Fichas(salida, partida, CAFE, BARRA_CAFE, BANDEJA_CAFE);
+    Escribir_Fichas(salida, partida, Bando_De(CAFE));
     return salida.str();
 }
 

@@ -117,7 +117,7 @@ constexpr const char* MEDIO = "B 0x2 11x3 20x6 bar2 | C 5x6 12x4 bar1 | dice 3 1
 TEST(Validez, Every_Kind_Of_Fault_Is_Named) {
     const std::pair<const char*, std::function<void(Partida&)>> casos[] = {
         {"Blanca(20) does not exist", [](Partida& p) { p.LST[0].Poner(20); }},
-        {"the white chip 1 stands in 2 places", [](Partida& p) { p.LST[11].Poner(1); }},
+        {"Blanca(1) stands in several places", [](Partida& p) { p.LST[11].Poner(1); }},
         {"Blanca(0) is misplaced", [](Partida& p) { p.Blanca[0].Left += 1; }},
         {"Cafe(10) is misplaced", [](Partida& p) { p.Cafe[10].Left = 255; }},
         {"Blanca(13) is misplaced", [](Partida& p) { p.Blanca[13].Top = 3391; }},
