@@ -1,7 +1,6 @@
 #include "ui/estampas.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QSvgRenderer>
 #include <QThreadPool>
 #include <algorithm>
@@ -13,8 +12,39 @@ namespace corvanda {
 
 namespace {
 
-QString Archivo_De(Picture estampa) {
+std::pair<QString, quint64> Clave_De(const QString& nombre, QSize tamano) {
+    return {nombre,
+            (static_cast<quint64>(tamano.width()) << 32) | static_cast<quint64>(tamano.height())};
+}
+
+// A drawing of nothing would make the chip or die invisible.
+bool Vacio(const QImage& lienzo) {
+    const uchar* fin = lienzo.constBits() + lienzo.sizeInBytes();
+    return std::all_of(lienzo.constBits(), fin, [](uchar octeto) { return octeto == 0; });
+}
+
+QImage Lienzo(QSize tamano) {
+    QImage lienzo(tamano.expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
+    lienzo.fill(Qt::transparent);
+    return lienzo;
+}
+
+QImage Dibujar_O_Figurar(const QString& carpeta, const QString& nombre, QSize tamano) {
+    const QImage dibujada = Estampas::Dibujar(carpeta + '/' + nombre + ".svg", tamano);
+    if (!dibujada.isNull() && !Vacio(dibujada)) return dibujada;
+    QImage lienzo = Lienzo(tamano);
+    QPainter pintor(&lienzo);
+    pintor.setRenderHint(QPainter::Antialiasing);
+    Dibujar_Figura(pintor, nombre, QRectF({}, QSizeF(tamano)));
+    return lienzo;
+}
+
+}  // namespace
+
+QString Estampas::Nombre_De(Picture estampa) {
     switch (estampa) {
+        case Picture::None:
+            return {};
         case Picture::Estuche:
             return "estuche";
         case Picture::Tablero:
@@ -33,52 +63,22 @@ QString Archivo_De(Picture estampa) {
             return "cafe";
         case Picture::Adios:
             return "adios";
-        case Picture::None:
-            return {};
         default:
-            return QString("dado%1").arg(Cara_De(estampa));
+            return QString("dado%1").arg(static_cast<int>(estampa) -
+                                         static_cast<int>(Picture::Dado1) + 1);
     }
 }
 
-quint64 Clave(Picture estampa, QSize tamano) {
-    return (static_cast<quint64>(estampa) << 48) | (static_cast<quint64>(tamano.width()) << 24) |
-           static_cast<quint64>(tamano.height());
-}
-
-Picture Estampa_De(quint64 clave) {
-    return static_cast<Picture>(clave >> 48);
-}
-
-QImage Lienzo(QSize tamano) {
-    QImage lienzo(tamano.expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
-    lienzo.fill(Qt::transparent);
-    return lienzo;
-}
-
-// A drawing of nothing would make the chip or die invisible.
-bool Vacio(const QImage& lienzo) {
-    const uchar* fin = lienzo.constBits() + lienzo.sizeInBytes();
-    return std::all_of(lienzo.constBits(), fin, [](uchar octeto) { return octeto == 0; });
-}
-
-QImage Dibujar(const QString& carpeta, Picture estampa, QSize tamano) {
+QImage Estampas::Dibujar(const QString& archivo, QSize tamano) {
+    QSvgRenderer dibujo(archivo);
+    if (!dibujo.isValid()) return {};
+    if (archivo.contains("/dado")) dibujo.setAspectRatioMode(Qt::KeepAspectRatio);
     QImage lienzo = Lienzo(tamano);
     QPainter pintor(&lienzo);
     pintor.setRenderHint(QPainter::Antialiasing);
-    QSvgRenderer dibujo(carpeta + '/' + Archivo_De(estampa) + ".svg");
-    // Everything fills its place, except the dice: those are square whatever the place is.
-    if (Cara_De(estampa) > 0) dibujo.setAspectRatioMode(Qt::KeepAspectRatio);
-    if (dibujo.isValid()) dibujo.render(&pintor, QRectF({}, QSizeF(tamano)));
-    pintor.end();
-    if (Vacio(lienzo)) {
-        pintor.begin(&lienzo);
-        pintor.setRenderHint(QPainter::Antialiasing);
-        Dibujar_Figura(pintor, estampa, QRectF({}, QSizeF(tamano)));
-    }
+    dibujo.render(&pintor, QRectF(lienzo.rect()));
     return lienzo;
 }
-
-}  // namespace
 
 // The workers hold copies of all they need, but the library under them must not be gone first.
 Estampas::~Estampas() {
@@ -86,23 +86,25 @@ Estampas::~Estampas() {
 }
 
 void Estampas::Preparar(const std::vector<Pedido>& pedidos) {
-    for (const Pedido& pedido : pedidos) {
-        const quint64 clave = Clave(pedido.estampa, pedido.tamano);
+    for (const auto& [nombre, tamano] : pedidos) {
+        const Clave clave = Clave_De(nombre, tamano);
         if (hechas.contains(clave) || en_camino.contains(clave)) continue;
         auto promesa = std::make_shared<std::promise<QImage>>();
         en_camino.insert(clave, promesa->get_future().share());
-        QThreadPool::globalInstance()->start([promesa, pedido, en = carpeta] {
-            promesa->set_value(Dibujar(en, pedido.estampa, pedido.tamano));
-        });
+        QThreadPool::globalInstance()->start(
+            [promesa, que = nombre, cuanto = tamano, en = carpeta] {
+                promesa->set_value(Dibujar_O_Figurar(en, que, cuanto));
+            });
     }
 }
 
-QPixmap Estampas::De(Picture estampa, QSize tamano, qreal ratio) {
-    if (estampa == Picture::None) return {};
-    const quint64 clave = Clave(estampa, tamano);
+QPixmap Estampas::De(const QString& nombre, QSize tamano, qreal ratio) {
+    if (nombre.isEmpty()) return {};
+    const Clave clave = Clave_De(nombre, tamano);
     if (!hechas.contains(clave)) {
         const auto camino = en_camino.take(clave);
-        const QImage imagen = camino.valid() ? camino.get() : Dibujar(carpeta, estampa, tamano);
+        const QImage imagen =
+            camino.valid() ? camino.get() : Dibujar_O_Figurar(carpeta, nombre, tamano);
         hechas.insert(clave, QPixmap::fromImage(imagen));
     }
     // Set where it is kept: a copy would be a copy of all its pixels.
@@ -111,19 +113,13 @@ QPixmap Estampas::De(Picture estampa, QSize tamano, qreal ratio) {
     return hecha;
 }
 
-void Estampas::Olvidar(Picture estampa) {
-    hechas.removeIf([estampa](const auto& hecha) { return Estampa_De(hecha.key()) == estampa; });
+void Estampas::Olvidar(const QString& nombre) {
+    hechas.removeIf([&nombre](const auto& hecha) { return hecha.key().first == nombre; });
 }
 
-QPixmap Estampas::Suelta(const QString& nombre, int lado, qreal ratio) {
-    QImage lienzo = Lienzo(QSize(qRound(lado * ratio), qRound(lado * ratio)));
-    QPainter pintor(&lienzo);
-    pintor.setRenderHint(QPainter::Antialiasing);
-    QSvgRenderer dibujo(carpeta + '/' + nombre + ".svg");
-    if (!dibujo.isValid()) return {};
-    dibujo.render(&pintor, QRectF(lienzo.rect()));
-    pintor.end();
-    QPixmap hecha = QPixmap::fromImage(lienzo);
+QPixmap Estampas::Suelta(const QString& nombre, int lado, qreal ratio) const {
+    const QSize tamano(qRound(lado * ratio), qRound(lado * ratio));
+    QPixmap hecha = QPixmap::fromImage(Dibujar(carpeta + '/' + nombre + ".svg", tamano));
     hecha.setDevicePixelRatio(ratio);
     return hecha;
 }

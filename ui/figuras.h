@@ -3,15 +3,12 @@
 
 #include <QPainter>
 #include <QRectF>
-
-#include "runtime/image.h"
+#include <QString>
 
 namespace corvanda {
 
-/// The pips of a die's face, 0 for pictures that are no die.
-int Cara_De(Picture estampa);
-
-/// Draws the plain form of a picture so that it fills the place.
-void Dibujar_Figura(QPainter& pintor, Picture estampa, const QRectF& lugar);
+/// Draws the plain form of a picture, by the name of its file, so that it fills the place. A name
+/// without one (a shadow, an ornament) leaves the place empty.
+void Dibujar_Figura(QPainter& pintor, const QString& nombre, const QRectF& lugar);
 
 }  // namespace corvanda

@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <QPromise>
 #include <QScreen>
-#include <QSvgRenderer>
 #include <QThreadPool>
 #include <cctype>
 #include <cstdint>
@@ -15,6 +14,7 @@
 
 #include "runtime/hourglass.h"
 #include "ui/dialogos.h"
+#include "ui/estampas.h"
 
 namespace corvanda {
 
@@ -30,16 +30,6 @@ constexpr const char* DIRECCION = "https://corvanda.example";
 
 const QColor BLANCO(Qt::white);
 const QColor GRIS(0x90, 0x90, 0x90, 0x60);  // lets the white copy under it be read
-
-QImage Dibujar(const QString& archivo, QSize tamano) {
-    QImage lienzo(tamano, QImage::Format_ARGB32_Premultiplied);
-    lienzo.fill(Qt::transparent);
-    QSvgRenderer dibujo(archivo);
-    if (!dibujo.isValid()) return lienzo;
-    QPainter pintor(&lienzo);
-    dibujo.render(&pintor, QRectF(lienzo.rect()));
-    return lienzo;
-}
 
 // A picture from a file that fills its place, crisp on whatever screen it is shown. It is drawn in
 // the background, because on a large screen that takes longer than the film may wait for.
@@ -70,7 +60,7 @@ class Lamina final : public QWidget {
         espera.setFuture(promesa->future());
         promesa->start();
         QThreadPool::globalInstance()->start([promesa, tamano, de = archivo] {
-            promesa->addResult(Dibujar(de, tamano));
+            promesa->addResult(Estampas::Dibujar(de, tamano));
             promesa->finish();
         });
     }

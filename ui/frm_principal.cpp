@@ -8,6 +8,7 @@
 
 #include "ui/form1.h"
 #include "ui/frm_volado.h"
+#include "ui/paleta.h"
 
 namespace corvanda {
 
@@ -20,12 +21,10 @@ constexpr int CICLO = 10;             // milliseconds of one cycle of the comput
 constexpr int VUELO_MAS_LARGO = 200;  // milliseconds
 constexpr int PAUSA_SIN_VUELO = 60;   // a shorter pause leaves no time to follow a chip
 
-const QColor ROJO_OSCURO(128, 0, 0);
-
 QWidget* Hacer_Fondo(QWidget* ventana) {
     auto* fondo = new QWidget(ventana);
     QPalette colores = fondo->palette();
-    colores.setColor(QPalette::Window, ROJO_OSCURO);
+    colores.setColor(QPalette::Window, paleta::ROJO_OSCURO);
     fondo->setPalette(colores);
     fondo->setAutoFillBackground(true);
     return fondo;

@@ -6,13 +6,11 @@
 #include <vector>
 
 #include "ui/lugares.h"
+#include "ui/paleta.h"
 
 namespace corvanda {
 
 namespace {
-
-const QColor SOMBRA_DE_MADERA(0x4a, 0x28, 0x14);
-const QColor MARFIL(0xf6, 0xee, 0xd8);
 
 bool Es_Ficha_O_Dado(Picture estampa) {
     return estampa == Picture::Blanca || estampa == Picture::Cafe || estampa >= Picture::Dado1;
@@ -41,9 +39,9 @@ QPixmap Pintura::Estampa_De(const Image& imagen) const {
 void Pintura::Preparar() {
     Partida vestida = partida;
     Vestir(vestida);
-    std::vector<Estampas::Pedido> pedidos{{Picture::Estuche, Pixeles()}};
+    std::vector<Estampas::Pedido> pedidos{{Estampas::Nombre_De(Picture::Estuche), Pixeles()}};
     const auto pedir = [&](const Image& imagen) {
-        pedidos.push_back({imagen.Shown, Pixeles_De(imagen)});
+        pedidos.push_back({Estampas::Nombre_De(imagen.Shown), Pixeles_De(imagen)});
     };
     for (const Image& imagen : vestida.Tablero) pedir(imagen);
     for (const Image& imagen : vestida.Triangle) pedir(imagen);
@@ -111,16 +109,16 @@ const QPixmap& Pintura::Fondo() {
     if (fondo.size() == Pixeles() && fondo.devicePixelRatio() == ratio) return fondo;
     QImage lienzo(Pixeles(), QImage::Format_RGB32);
     lienzo.setDevicePixelRatio(ratio);
-    lienzo.fill(SOMBRA_DE_MADERA);
+    lienzo.fill(paleta::CAOBA);
     QPainter pintor(&lienzo);
     pintor.drawPixmap(QPointF(0, 0), estampas.De(Picture::Estuche, Pixeles(), ratio));
-    estampas.Olvidar(Picture::Estuche);
+    estampas.Olvidar(Estampas::Nombre_De(Picture::Estuche));
     const auto poner = [&](const auto& miembros) {
         for (const Image& imagen : miembros) {
             if (!imagen.Visible || imagen.Shown == Picture::None) continue;
             pintor.drawPixmap(Lugar(imagen).topLeft(), Estampa_De(imagen));
         }
-        for (const Image& imagen : miembros) estampas.Olvidar(imagen.Shown);
+        for (const Image& imagen : miembros) estampas.Olvidar(Estampas::Nombre_De(imagen.Shown));
     };
     poner(partida.Tablero);
     poner(partida.Triangle);
@@ -148,13 +146,13 @@ void Pintura::Pintar_Cuenta(QPainter& pintor, Integer lugar, Control velada) con
     const qreal radio = ficha.height() * 0.27;
     pintor.setRenderHint(QPainter::Antialiasing);
     pintor.setPen(Qt::NoPen);
-    pintor.setBrush(cafe ? QColor(0x2a, 0x16, 0x0d) : MARFIL);
+    pintor.setBrush(cafe ? paleta::NOGAL : paleta::MARFIL);
     pintor.drawEllipse(ficha.center(), radio, radio);
     QFont letra = pintor.font();
     letra.setPixelSize(std::max(1, qRound(ficha.height() * 0.42)));
     letra.setBold(true);
     pintor.setFont(letra);
-    pintor.setPen(cafe ? MARFIL : QColor(0x4a, 0x2c, 0x18));
+    pintor.setPen(cafe ? paleta::MARFIL : paleta::NOGAL);
     pintor.drawText(ficha, Qt::AlignCenter, QString::number(pila.Cuenta()));
 }
 
