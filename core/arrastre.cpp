@@ -38,14 +38,15 @@ void Juego::Presionar(Integer color, Integer Index, Integer Button) {
 }
 
 // Whether presses, drops and the pass command are for nobody just now: the old dice are still
-// shown, or a new game waits for the old one to unwind.
+// shown, a new game waits for the old one to unwind, or the winner is announced.
 bool Juego::Entrada_Cerrada() const {
-    return Cerrando() || sin_entrada || peticion.has_value();
+    return Cerrando() || sin_entrada || peticion.has_value() || Hay_Ganador();
 }
 
+// In the computer's turn Brown's chips are the computer's own, and nobody's while events run.
 bool Juego::Puede_Jugar(Integer color) const {
     return partida.Turno == color && partida.Jugando == True &&
-           !(color == CAFE && computadora_juega);
+           !(color == CAFE && computadora_juega && !computadora_actua);
 }
 
 bool Juego::Se_Puede_Tomar(Control ficha) const {
@@ -114,8 +115,7 @@ void Juego::Soltar(Control fuente, Integer destino) {
 
 // A drag may outlive the turn it began in; such a drop means nothing any more.
 bool Juego::Puede_Soltar(Control fuente) const {
-    if (Entrada_Cerrada() || partida.Jugando == False) return false;
-    return partida.Turno == Bando_De(fuente).color && Es_Tope_De_Origen(fuente);
+    return !Entrada_Cerrada() && Puede_Jugar(Bando_De(fuente).color) && Es_Tope_De_Origen(fuente);
 }
 
 bool Juego::Es_Tope_De_Origen(Control fuente) const {

@@ -33,6 +33,7 @@ void Juego::Tirar_Dados() {
 }
 
 void Juego::Delay(Integer /*T*/) {
+    const Mientras ceden(computadora_actua, false);
     if (computadora_juega && !sin_entrada && partida.Jugando != False) {
         puertos.Eventos.DoEventsPaced();
     } else {
@@ -89,6 +90,7 @@ bool Juego::Le_Toca_A_La_Computadora() const {
 void Juego::Jugar_Computadora() {
     if (computadora_juega || !Le_Toca_A_La_Computadora()) return;
     const Mientras juega(computadora_juega);
+    const Mientras actua(computadora_actua);
     Vigencia::Testigo testigo{};
     do {
         testigo = vigencia.Tomar();

@@ -162,11 +162,11 @@ class Juego {
     void Soltar_En_Ficha(Control blanco, Control fuente);
     bool Puede_Soltar(Control fuente) const;
     bool Es_Tope_De_Origen(Control fuente) const;
-    bool Hay_Ganador() const;
 
     Integer Dado_Que_Saca(Integer bandeja) const;
     bool Hay_Ficha_Atras() const;
     void Llevar_A_Bandeja(Integer ficha);
+    bool Hay_Ganador() const;
     void Terminar(const std::string& anuncio);
 
     void Negar_Pase(const std::string& texto, Integer dado);
@@ -188,7 +188,8 @@ class Juego {
     Vigencia vigencia;
     int profundidad = 0;  // how many Tirar_Dados are running
     bool computadora_juega = false;
-    bool sin_entrada = false;  // a roll that no move preceded: old dice may still be shown
+    bool computadora_actua = false;  // within its turn: what happens now is its own doing
+    bool sin_entrada = false;        // a roll that no move preceded: old dice may still be shown
     bool atendiendo = false;
     std::optional<Peticion> peticion;  // a new game asked for and not yet begun
 };

@@ -28,6 +28,7 @@ void Juego::Beeper() {
 }
 
 void Juego::Avisar(const std::string& texto, Integer estilo, const std::string& titulo) {
+    const Mientras ceden(computadora_actua, false);
     if (!Cerrando()) puertos.Mensajes.MsgBox(texto, estilo, titulo);
 }
 

@@ -75,6 +75,14 @@ void Juego::Llevar_A_Bandeja(Integer ficha) {
     Habilitar(control, false);
 }
 
+// The game is over and still counts as running: the winner is being announced.
+bool Juego::Hay_Ganador() const {
+    const auto llena = [this](Integer bandeja) {
+        return Pila_En(partida, bandeja).Cuenta() == FICHAS;
+    };
+    return partida.Jugando != False && (llena(BANDEJA_BLANCA) || llena(BANDEJA_CAFE));
+}
+
 void Juego::Terminar(const std::string& anuncio) {
     const auto testigo = vigencia.Tomar();
     Sonar("applaus.Wav");

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
 
 namespace corvanda {
 
@@ -29,16 +30,18 @@ class Vigencia {
     bool cerrando = false;
 };
 
-/// Sets a flag for as long as a procedure runs, whichever way it returns.
+/// Sets a flag for as long as a procedure runs and puts it back, whichever way that returns.
 class Mientras {
   public:
-    explicit Mientras(bool& bandera) : bandera(bandera) { bandera = true; }
-    ~Mientras() { bandera = false; }
+    explicit Mientras(bool& bandera, bool valor = true)
+        : bandera(bandera), antes(std::exchange(bandera, valor)) {}
+    ~Mientras() { bandera = antes; }
     Mientras(const Mientras&) = delete;
     Mientras& operator=(const Mientras&) = delete;
 
   private:
     bool& bandera;
+    const bool antes;
 };
 
 }  // namespace corvanda

@@ -35,14 +35,14 @@ const Momento MOMENTOS[] = {
     {"B 21x15 | C bar1 12x14 | turn B", "roll", PRINCIPIANTE, 4 + 6 + 1, 4 + 6 + 4, NADA},
     {"B 21x15 | C bar1 12x14 | turn B", "roll", PRINCIPIANTE, 0, 0, NADIE_PULSA},
     {"B 5x1 bar14 | C 1x2 | turn B", "roll", PRINCIPIANTE, 0, 0, NADIE_PULSA},
-    {"B 18x15 | C 2x1 | turn B", "roll", AVANZADO, 0, 0, NADIE_PULSA},
+    {"B 18x15 | C 2x1 | turn B", "roll", AVANZADO, 0, 0, NADA},
     {"B 0x15 | C 5x15 | dice 5 1", "0/5", DOS_PERSONAS, 0, 0, NADIE_PULSA},
     {"B 8x15 | C 12x15 | dice 5 1", "8/5", DOS_PERSONAS, 0, 0, NADIE_PULSA},
     {"dice 5 1", "C0", DOS_PERSONAS, 0, 0, NADIE_PULSA},
     {"dice 5 1", "pass", DOS_PERSONAS, 0, 0, NADIE_PULSA},
     {"B bar1 0x14 | C 5x2 3x2 12x11 | dice 6 4", "pass", DOS_PERSONAS, 0, 0, NADIE_PULSA},
-    {"B 23x1 | C 12x15 | dice 1 4", "23/A1", DOS_PERSONAS, 0, 0, NADIE_PULSA},
-    {"turn C | C 0x1 | B 12x15 | dice 1 4", "0/A0", DOS_PERSONAS, 0, 0, NADIE_PULSA},
+    {"B 23x1 | C 12x15 | dice 1 4", "23/A1", DOS_PERSONAS, 0, 0, NADA},
+    {"turn C | C 0x1 | B 12x15 | dice 1 4", "0/A0", DOS_PERSONAS, 0, 0, NADA},
 };
 
 /// A table with the computer at it, watched for two turns at once.
@@ -72,7 +72,8 @@ struct Escena : Oponente, Mesa {
         const std::string accion = momento.accion;
         if (accion == "new") return juego.Empezar(DOS_PERSONAS, primero);
         if (accion == "roll") return juego.Tirar_Dados();
-        if (momento.respuesta == NADA) Hacer("C14");  // a chip is held when the pass is given
+        // A chip is held when the pass is given.
+        if (momento.respuesta == NADA && accion == "pass") Hacer("C14");
         Hacer(accion);
     }
     // Returns what the journal says of hands, and leaves it as it was.
@@ -81,7 +82,10 @@ struct Escena : Oponente, Mesa {
         for (const char* accion : {"B0", "C0"}) Hacer(accion);
         if (pasa) Hacer("pass");
         Soltar({Arreglo::Blanca, 1}, {Arreglo::Triangle, 3});
-        Soltar({Arreglo::Cafe, 14}, {Arreglo::Triangle, 7});
+        // A chip that was in the hand before the computer took the side does not help, either.
+        if (juego.Computadora_Juega() && !pasa) juego.Poner_Origen(7);
+        for (const Integer punto : {Integer{7}, Integer{4}})
+            Soltar({Arreglo::Cafe, 14}, {Arreglo::Triangle, punto});
         Soltar({Arreglo::Blanca, 1}, {Arreglo::Adios, 0});
         Diario respuesta = escritorio.Leer();
         escritorio.diario = antes;
