@@ -53,8 +53,8 @@ void Rombo(QPainter& pintor, const QRectF& lugar) {
 QColor Material(const QString& nombre) {
     const std::pair<const char*, QColor> tabla[] = {
         {"blanc", MARFIL},  {"cafe", NOGAL},  {"estuche", MADERA}, {"tablero", FIELTRO},
-        {"adios", FIELTRO}, {"inf_a", BARRO}, {"sup_a", BARRO},    {"inf_b", PIZARRA},
-        {"sup_b", PIZARRA}, {"dado", MARFIL}, {"turno", FIELTRO},
+        {"adios", FIELTRO}, {"inf_a", BARRO}, {"sup_a", BARRO},    {"inf_b", OCRE},
+        {"sup_b", OCRE},    {"dado", MARFIL}, {"turno", FIELTRO},
     };
     for (const auto& [parte, color] : tabla) {
         if (nombre.contains(parte)) return color;
