@@ -4,6 +4,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "fuentes.h"
 #include "tests/apoyo/diario.h"
 #include "tests/apoyo/mesa.h"
 

@@ -6,6 +6,7 @@
 #include "desktop/media_file.h"
 #include "desktop/program_folder.h"
 #include "desktop/wave_file.h"
+#include "fuentes.h"
 #include "tests/desktop/desk.h"
 
 namespace corvanda::pruebas {

@@ -6,6 +6,7 @@
 
 #include "desktop/help_viewer.h"
 #include "desktop/help_window.h"
+#include "fuentes.h"
 #include "tests/apoyo/sin_nombre.h"
 #include "tests/desktop/desk.h"
 

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 
+#include "fuentes.h"
 #include "tests/ui/ventana.h"
 
 namespace corvanda::pruebas {
