@@ -85,9 +85,8 @@ iguales "the entry that the window names" "${entrada##*/}" \
     "$(sed -nE 's/.*setDesktopFileName\("([^"]*)"\).*/\1.desktop/p' "$fuentes/app/aplicacion.cpp")"
 orden=$(sed -n 's/^Exec=//p' "$entrada") icono=$(sed -n 's/^Icon=//p' "$entrada")
 [ -x "$usr/games/$orden" ] || falta "the entry starts $orden, which is not there"
-for lado in 16 22 24 32 48 64 128 256; do
-    [[ $(file -b "$usr/share/icons/hicolor/${lado}x$lado/apps/$icono.png") == "PNG image data, $lado x $lado, "* ]] ||
-        falta "there is no icon of $lado pixels"
+for lado in 16 22 24; do
+    debe grep -q "width=\"$lado\" height=\"$lado\"" "$usr/share/icons/hicolor/${lado}x$lado/apps/$icono.svg"
 done
 debe test -f "$usr/share/icons/hicolor/scalable/apps/$icono.svg"
 for imagen in $(etiqueta image); do

@@ -153,7 +153,10 @@ void FrmPrincipal::Mostrar_Ventana() {
 
 void FrmPrincipal::Poner_Icono() {
     QIcon icono;
-    for (const int lado : {16, 32, 48, 128}) icono.addPixmap(estampas.Suelta("corvanda", lado, 1));
+    for (const int lado : {16, 22, 24}) {  // each drawn for its pixels
+        icono.addPixmap(estampas.Suelta(QString("corvanda_%1").arg(lado), lado, 1));
+    }
+    for (const int lado : {32, 48, 128}) icono.addPixmap(estampas.Suelta("corvanda", lado, 1));
     QGuiApplication::setWindowIcon(icono);  // the help has no window of this program above it
 }
 
