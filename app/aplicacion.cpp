@@ -12,17 +12,17 @@ namespace {
 
 constexpr int ESTAMPAS_DEL_ESTILO = 512;  // KiB
 
-Escala De_La_Pantalla() {
-    return Escala::Para(QGuiApplication::primaryScreen()->availableGeometry().size());
+QSizeF Usable() {
+    return QGuiApplication::primaryScreen()->availableGeometry().size();
 }
 
 }  // namespace
 
 Aplicacion::Aplicacion(RandomNumbers& azar)
-    : escala(De_La_Pantalla()),
+    : escala_de_acerca(FrmAbout::Escala_Para(Usable())),
       imagenes(NativePath(programa.Path(), programa.Path() + "\\imagenes")),
       estampas(imagenes),
-      medios(programa.Path(), escala.K()) {
+      medios(programa.Path(), escala_de_acerca.K()) {
     // The windows come and go; only the main window's word ends the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName("corvanda");
@@ -31,7 +31,8 @@ Aplicacion::Aplicacion(RandomNumbers& azar)
     sonidos.LookForDevices();
 
     const Servicios servicios{mensajes, eventos, puntero, azar, sonidos, almacen, ayuda, programa};
-    principal = std::make_unique<FrmPrincipal>(partida, servicios, escala, estampas, &computadora);
+    principal = std::make_unique<FrmPrincipal>(
+        partida, servicios, FrmPrincipal::Escala_Para(Usable()), estampas, &computadora);
     principal->Poner_Acerca([this] { Mostrar_Acerca(); });
     mensajes.SetMainWindow(principal.get());
     connect(principal.get(), &FrmPrincipal::terminada, this, [] { QCoreApplication::exit(0); });
@@ -42,7 +43,7 @@ Aplicacion::Aplicacion(RandomNumbers& azar)
 std::unique_ptr<FrmAbout> Aplicacion::Hacer_Acerca(QWidget* ventana) {
     return std::make_unique<FrmAbout>(ventana, veces,
                                       FrmAbout::Servicios_De_Acerca{medios, puntero, programa},
-                                      escala, imagenes, [this] { Mostrar_Principal(); });
+                                      escala_de_acerca, imagenes, [this] { Mostrar_Principal(); });
 }
 
 void Aplicacion::Empezar() {

@@ -54,7 +54,7 @@ class Aplicacion final : public QObject {
     SettingsFile almacen;
     QtHelpViewer ayuda{mensajes, programa.Path(), "Corvanda"};
     Computadora computadora;
-    const Escala escala;
+    const Escala escala_de_acerca;  // the film is shown at it, too
     const QString imagenes;
     Estampas estampas;
     QtMediaControl medios;

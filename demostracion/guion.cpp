@@ -56,7 +56,7 @@ void Guion::Foto(const QString& nombre) {
 }
 
 QPoint Guion::En_Pantalla(Lugar lugar) const {
-    const Escala escala = Escala::Para(programa.Ventana().screen()->availableGeometry().size());
+    const Escala escala = programa.Ventana().Medida();
     const QPointF punto(escala.Pixeles(lugar.x), escala.Pixeles(lugar.y));
     const qreal ratio = programa.Ventana().devicePixelRatioF();
     return (programa.Ventana().Tablero().mapToGlobal(punto) * ratio).toPoint();

@@ -41,8 +41,7 @@ void Contestar() {
 class Jugador {
   public:
     explicit Jugador(Aplicacion& programa)
-        : programa(programa),
-          escala(Escala::Para(programa.Ventana().screen()->availableGeometry().size())) {}
+        : programa(programa), escala(programa.Ventana().Medida()) {}
 
     /// One game from the menu to the winner's box; the level changes from game to game.
     void Partida_Entera(int numero) {

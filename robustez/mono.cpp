@@ -174,7 +174,7 @@ void Mono::Pulsar(QWindow* ventana, int tecla, Qt::KeyboardModifiers con) {
 
 QPointF Mono::Punto_Del_Tablero(Lugar lugar) const {
     FrmPrincipal& ventana = programa.Ventana();
-    const Escala escala = Escala::Para(ventana.screen()->availableGeometry().size());
+    const Escala escala = ventana.Medida();
     const QPointF punto(escala.Pixeles(lugar.x), escala.Pixeles(lugar.y));
     return ventana.Tablero().mapTo(&ventana, punto);
 }

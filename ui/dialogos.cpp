@@ -10,7 +10,7 @@ constexpr double LETRA = 8.25;  // points, as the layout was drawn for
 
 }  // namespace
 
-void Preparar(QDialog& dialogo, const Escala& escala, double ancho, double alto) {
+void Preparar(QDialog& dialogo, Escala escala, double ancho, double alto) {
     dialogo.setFixedSize(escala.Tamano(ancho, alto));
     dialogo.setFont(escala.Letra(LETRA));
     QPalette colores(QColor(0xdd, 0xda, 0xd4), QColor(0xdd, 0xda, 0xd4));
@@ -19,7 +19,7 @@ void Preparar(QDialog& dialogo, const Escala& escala, double ancho, double alto)
 }
 
 QLabel* Texto(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
-              const Escala& escala, const QFont& letra) {
+              Escala escala, const QFont& letra) {
     auto* etiqueta = new QLabel(texto, &dialogo);
     etiqueta->setObjectName(nombre);
     etiqueta->setTextFormat(Qt::PlainText);
@@ -29,7 +29,7 @@ QLabel* Texto(QDialog& dialogo, const char* nombre, const QString& texto, Sitio 
 }
 
 QPushButton* Boton(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
-                   const Escala& escala) {
+                   Escala escala) {
     auto* boton = new QPushButton(texto, &dialogo);
     boton->setObjectName(nombre);
     boton->setGeometry(escala.Lugar(sitio.left, sitio.top, sitio.width, sitio.height));

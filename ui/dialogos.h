@@ -11,16 +11,16 @@
 namespace corvanda::dialogos {
 
 /// Inner size in twips, fixed border, light grey ground whatever the desktop's theme is.
-void Preparar(QDialog& dialogo, const Escala& escala, double ancho, double alto);
+void Preparar(QDialog& dialogo, Escala escala, double ancho, double alto);
 
 struct Sitio {
     double left, top, width, height;  ///< twips
 };
 
 QLabel* Texto(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
-              const Escala& escala, const QFont& letra);
+              Escala escala, const QFont& letra);
 QPushButton* Boton(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
-                   const Escala& escala);
+                   Escala escala);
 /// Colours of a label: its letters and, when valid, the plate behind them.
 void Colorear(QLabel& texto, const QColor& letras, const QColor& placa = {});
 

@@ -7,17 +7,15 @@ namespace corvanda {
 
 namespace {
 
-constexpr double ANCHO_PRINCIPAL = 10215;
-constexpr double ALTO_PRINCIPAL = 6495;
-constexpr double ULTIMO_TEXTO = 9240;
+constexpr double MENOR = 8;  // twentieths: 0.4
 
 }  // namespace
 
-Escala Escala::Para(QSizeF usable) {
-    const double ancho = usable.width() * 15 / ANCHO_PRINCIPAL;
-    const double alto = usable.height() * 15 / std::max(ALTO_PRINCIPAL, ULTIMO_TEXTO);
+Escala Escala::Que_Quepan(QSizeF twips, QSizeF pixeles) {
+    const double ancho = pixeles.width() * 15 / twips.width();
+    const double alto = pixeles.height() * 15 / twips.height();
     const double veintavos = std::floor(std::min(ancho, alto) * 20 + 1e-6);
-    return Escala(std::max(veintavos, 20.0) / 20);
+    return Escala(std::max(veintavos, MENOR) / 20);
 }
 
 QRect Escala::Lugar(double left, double top, double width, double height) const {

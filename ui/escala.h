@@ -1,6 +1,7 @@
 // Twips on today's screens. A twip is a 1440th of an inch on paper; here it is what the layout is
-// measured in, and the scale says how many of them make one logical pixel. It is chosen once at
-// start-up, so that the board looks as large on any screen as it did on those it was designed for.
+// measured in, and the scale says how many of them make one logical pixel. It is chosen at
+// start-up, by each window that says how much of it has to be seen (FrmPrincipal, FrmAbout), and
+// never again. It is one number: everybody keeps a copy.
 #pragma once
 
 #include <QFont>
@@ -14,9 +15,9 @@ class Escala {
   public:
     /// The usual 15 twips per pixel.
     Escala() = default;
-    /// 15 / k, k the largest multiple of 0.05, at least 1, at which the main window's design size
-    /// and the lowest text of the start-up screen fit an area of this size (logical pixels).
-    static Escala Para(QSizeF usable);
+    /// 15 / k, k the largest multiple of 0.05, at least 0.4, at which so many twips fit into so
+    /// many logical pixels.
+    static Escala Que_Quepan(QSizeF twips, QSizeF pixeles);
 
     double Twips_Por_Pixel() const { return twips_por_pixel; }
     double K() const { return 15 / twips_por_pixel; }

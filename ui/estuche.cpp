@@ -33,12 +33,12 @@ Integer Boton_De(Qt::MouseButton boton) {
 
 }  // namespace
 
-Estuche::Estuche(const Partida& partida, const Escala& escala, Estampas& estampas, QWidget* fondo)
+Estuche::Estuche(const Partida& partida, Escala escala, Estampas& estampas, QWidget* fondo)
     : QWidget(fondo),
       partida(partida),
       escala(escala),
       estampas(estampas),
-      pintura(partida, this->escala, estampas, *this),
+      pintura(partida, escala, estampas, *this),
       flotante(fondo) {
     // Before anything is told of this widget, or it would be described as any other.
     EstucheAccesible::Instalar();

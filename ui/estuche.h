@@ -33,7 +33,7 @@ class Estuche final : public QWidget, public Pantalla {
     };
 
     /// `fondo` is what the case lies on, and what a dragged chip may be dragged over.
-    Estuche(const Partida& partida, const Escala& escala, Estampas& estampas, QWidget* fondo);
+    Estuche(const Partida& partida, Escala escala, Estampas& estampas, QWidget* fondo);
 
     void Preguntar(Preguntas nuevas) { preguntas = std::move(nuevas); }
 

@@ -24,7 +24,7 @@ const QColor AZUL_OSCURO(0, 0, 0x80);
 
 }  // namespace
 
-Form1::Form1(QWidget* ventana, Modulo1& modulo, const Escala& escala, Estampas& estampas)
+Form1::Form1(QWidget* ventana, Modulo1& modulo, Escala escala, Estampas& estampas)
     : QDialog(ventana), modulo(modulo), escala(escala), estampas(estampas) {
     setObjectName("Form1");
     setWindowTitle("Game Speed...");

@@ -22,7 +22,7 @@ class Form1 final : public QDialog {
   public:
     /// Shows Velocidad, or the nearest end of the bar when it lies outside 1 to 200; only "&Ok"
     /// changes it.
-    Form1(QWidget* ventana, Modulo1& modulo, const Escala& escala, Estampas& estampas);
+    Form1(QWidget* ventana, Modulo1& modulo, Escala escala, Estampas& estampas);
 
   protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
@@ -38,7 +38,7 @@ class Form1 final : public QDialog {
     void BtnAceptar_Click();
 
     Modulo1& modulo;
-    const Escala& escala;
+    const Escala escala;
     Estampas& estampas;
     QLineEdit* TxtVel = nullptr;
     QScrollBar* Scroll = nullptr;

@@ -22,7 +22,9 @@ namespace {
 
 constexpr int LATIDO = 100;  // milliseconds
 constexpr Integer ULTIMA_VEZ = 30;
-constexpr double LETRA = 12;        // points
+constexpr double ANCHO = 10215;  // twips that have to be seen: as wide as the main window's design,
+constexpr double ALTO = 9240;    // down to the lowest text
+constexpr double LETRA = 12;     // points
 constexpr double CORRIMIENTO = 30;  // twips between the two copies of a text
 
 constexpr const char* AVISO = "© 2026 The Corvanda authors\nauthors@corvanda.example";
@@ -77,8 +79,12 @@ void Ennegrecer(QWidget& control) {
 
 }  // namespace
 
+Escala FrmAbout::Escala_Para(QSizeF usable) {
+    return Escala::Que_Quepan({ANCHO, ALTO}, usable);
+}
+
 FrmAbout::FrmAbout(QWidget* ventana, Integer& Veces, const Servicios_De_Acerca& servicios,
-                   const Escala& escala, const QString& imagenes, std::function<void()> principal)
+                   Escala escala, const QString& imagenes, std::function<void()> principal)
     : QDialog(ventana),
       Veces(Veces),
       servicios(servicios),

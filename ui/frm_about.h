@@ -31,8 +31,12 @@ class FrmAbout final : public QDialog {
     /// Loads the window. `ventana` may be missing. `Veces` counts the ticks of all showings and
     /// lives as long as the program. `imagenes` is the folder of the pictures, `principal` shows
     /// the main window.
-    FrmAbout(QWidget* ventana, Integer& Veces, const Servicios_De_Acerca& servicios,
-             const Escala& escala, const QString& imagenes, std::function<void()> principal);
+    FrmAbout(QWidget* ventana, Integer& Veces, const Servicios_De_Acerca& servicios, Escala escala,
+             const QString& imagenes, std::function<void()> principal);
+
+    /// The scale at which the lowest text fits a screen of which so many logical pixels can be
+    /// used.
+    static Escala Escala_Para(QSizeF usable);
     /// Unloads the window if it is still loaded, without showing the main window.
     ~FrmAbout() override;
 

@@ -1,9 +1,11 @@
 #include "ui/frm_principal.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QStyle>
 #include <algorithm>
 
 #include "ui/form1.h"
@@ -20,6 +22,7 @@ constexpr Integer TECLA_F1 = 112;
 constexpr int CICLO = 10;             // milliseconds of one cycle of the computer's pause
 constexpr int VUELO_MAS_LARGO = 200;  // milliseconds
 constexpr int PAUSA_SIN_VUELO = 60;   // a shorter pause leaves no time to follow a chip
+constexpr int AIRE_DEL_TITULO = 12;  // logical pixels a title bar has above and below its letters
 
 QWidget* Hacer_Fondo(QWidget* ventana) {
     auto* fondo = new QWidget(ventana);
@@ -28,6 +31,21 @@ QWidget* Hacer_Fondo(QWidget* ventana) {
     fondo->setPalette(colores);
     fondo->setAutoFillBackground(true);
     return fondo;
+}
+
+// What the desktop puts around a window that fills the screen: a title bar, and at the sides a line
+// at most. What is wrong with the guess, panels that the desktop does not tell of among it, comes
+// out of the margin around the case.
+QSize Marco_Supuesto() {
+    const int letras = QFontMetrics(QApplication::font()).height() + AIRE_DEL_TITULO;
+    return {2, std::max(letras, QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight))};
+}
+
+int Alto_De_La_Barra(double ancho) {
+    QMenuBar barra;
+    barra.setNativeMenuBar(false);  // one of the desktop's own would be seen
+    const Menus menus(barra);
+    return barra.heightForWidth(static_cast<int>(ancho));
 }
 
 Puertos Puertos_De(const Servicios& servicios, Pantalla& tablero) {
@@ -42,7 +60,12 @@ Puertos Puertos_De(const Servicios& servicios, Pantalla& tablero) {
 
 }  // namespace
 
-FrmPrincipal::FrmPrincipal(Partida& partida, const Servicios& servicios, const Escala& escala,
+Escala FrmPrincipal::Escala_Para(QSizeF usable) {
+    const QSizeF alrededor = Marco_Supuesto() + QSize(0, Alto_De_La_Barra(usable.width()));
+    return Escala::Que_Quepan({ANCHO, ALTO}, usable - alrededor);
+}
+
+FrmPrincipal::FrmPrincipal(Partida& partida, const Servicios& servicios, Escala escala,
                            Estampas& estampas, Oponente* computadora)
     : partida(partida),
       servicios(servicios),
@@ -146,8 +169,9 @@ void FrmPrincipal::Form_Load() {
 void FrmPrincipal::Mostrar_Ventana() {
     const QSize dentro = escala.Tamano(ANCHO, ALTO);
     resize(dentro + QSize(0, menuBar()->sizeHint().height()));
-    const QRect usable = screen()->availableGeometry();
-    move(usable.center() - rect().center());
+    QRect con_marco({}, size() + Marco_Supuesto());
+    con_marco.moveCenter(screen()->availableGeometry().center());
+    move(con_marco.topLeft());
     showMaximized();
 }
 

@@ -43,8 +43,13 @@ class FrmPrincipal final : public QMainWindow, private Volado {
 
   public:
     /// `partida` is the board as designed; `computadora` may be missing.
-    FrmPrincipal(Partida& partida, const Servicios& servicios, const Escala& escala,
-                 Estampas& estampas, Oponente* computadora);
+    FrmPrincipal(Partida& partida, const Servicios& servicios, Escala escala, Estampas& estampas,
+                 Oponente* computadora);
+
+    /// The scale at which the design size fills the window when that fills a screen of which so
+    /// many logical pixels can be used. What the frame takes of them is told only once a window
+    /// is shown, and is guessed.
+    static Escala Escala_Para(QSizeF usable);
 
     /// Prepares the game and shows the window. Once.
     void Form_Load();
@@ -68,6 +73,8 @@ class FrmPrincipal final : public QMainWindow, private Volado {
     /// What "About..." shows.
     void Poner_Acerca(std::function<void()> mostrar) { acerca = std::move(mostrar); }
 
+    /// The scale of the window, its board and its dialogs.
+    Escala Medida() const { return escala; }
     Estuche& Tablero() { return *estuche; }
     Locutor& Relator() { return locutor; }
     Juego& Mesa() { return juego; }

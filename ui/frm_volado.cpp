@@ -19,7 +19,7 @@ const QColor PLACA_CLARA(0xf3, 0xea, 0xd0);
 
 }  // namespace
 
-FrmVolado::FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, const Escala& escala,
+FrmVolado::FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, Escala escala,
                      Estampas& estampas, std::function<void()> ayuda)
     : QDialog(ventana),
       modulo(modulo),

@@ -21,7 +21,7 @@ class FrmVolado final : public QDialog {
 
   public:
     /// `ayuda` opens the help as F1 does in the main window.
-    FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, const Escala& escala,
+    FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, Escala escala,
               Estampas& estampas, std::function<void()> ayuda);
 
     /// One step: a throw, or the end.
@@ -38,7 +38,7 @@ class FrmVolado final : public QDialog {
 
     Modulo1& modulo;
     RandomNumbers& azar;
-    const Escala& escala;
+    const Escala escala;
     Estampas& estampas;
     std::function<void()> ayuda;
 

@@ -24,7 +24,7 @@ class Pintura {
     };
 
     /// `sobre` is what the board is painted on: as large as the case, at the ratio of its screen.
-    Pintura(const Partida& partida, const Escala& escala, Estampas& estampas, const QWidget& sobre)
+    Pintura(const Partida& partida, Escala escala, Estampas& estampas, const QWidget& sobre)
         : partida(partida), escala(escala), estampas(estampas), sobre(sobre) {}
 
     /// Begins to draw the pictures in the background.
@@ -45,7 +45,7 @@ class Pintura {
     void Pintar_Cuenta(QPainter& pintor, Integer lugar, Control velada) const;
 
     const Partida& partida;
-    const Escala& escala;
+    const Escala escala;
     Estampas& estampas;
     const QWidget& sobre;
     QPixmap fondo;  // the case with its halves and points; empty before it is painted

@@ -1,18 +1,52 @@
 // Where the board lies, what a change repaints, and pictures that are missing.
+#include <QApplication>
 #include <QPaintEvent>
 #include <cmath>
 
 #include "tests/ui/ventana.h"
+#include "ui/frm_about.h"
 
 namespace corvanda::pruebas {
 namespace {
 
-TEST(Escala, is_the_largest_twentieth_at_which_the_design_fits) {
+TEST(Escala, is_the_largest_twentieth_at_which_the_start_up_screen_fits) {
     const std::pair<QSizeF, double> tabla[] = {
         {{1366, 768}, 1.20},    {{1920, 1080}, 1.75},  {{1920, 1044}, 1.65}, {{3840, 2160}, 3.50},
-        {{817.2, 739.2}, 1.20}, {{817.1, 2000}, 1.15}, {{681, 616}, 1},      {{0, 0}, 1},
+        {{817.2, 739.2}, 1.20}, {{817.1, 2000}, 1.15}, {{800, 600}, 0.95},   {{0, 0}, 0.4},
     };
-    for (const auto& [usable, k] : tabla) EXPECT_DOUBLE_EQ(Escala::Para(usable).K(), k) << k;
+    for (const auto& [usable, k] : tabla) EXPECT_DOUBLE_EQ(FrmAbout::Escala_Para(usable).K(), k);
+}
+
+// Below a title bar of 40 pixels, and beside a panel of 30 that the desktop does not tell of.
+TEST(Escala, lets_the_board_fill_the_maximised_window_and_never_leave_it) {
+    const struct {
+        QSizeF usable;
+        double puntos, menor, mayor;
+    } tabla[] = {
+        {{640, 480}, 10, 0.90, 0.90},   {{800, 600}, 10, 1.10, 1.15},
+        {{1024, 768}, 10, 1.50, 1.50},  {{1366, 768}, 10, 1.60, 1.65},
+        {{1366, 720}, 10, 1.50, 1.55},  {{1920, 1080}, 10, 2.35, 2.40},
+        {{2560, 1440}, 10, 3.15, 3.25}, {{3840, 2160}, 10, 4.80, 4.90},
+        {{1024, 768}, 24, 1.50, 1.50},  {{800, 600}, 24, 1.10, 1.15},
+        {{1920, 1080}, 24, 2.15, 2.30}, {{100, 50}, 10, 0.4, 0.4},
+    };
+    const QFont antes = QApplication::font();
+    for (const auto& fila : tabla) {
+        SCOPED_TRACE(testing::Message()
+                     << fila.usable.height() << ", " << fila.puntos << " points");
+        QFont letra = antes;
+        letra.setPointSizeF(fila.puntos);
+        QApplication::setFont(letra);
+        const Escala escala = FrmPrincipal::Escala_Para(fila.usable);
+        EXPECT_GE(escala.K(), fila.menor - 1e-9);
+        EXPECT_LE(escala.K(), fila.mayor + 1e-9);
+        const QSize estuche = escala.Tamano(Estuche::ANCHO, Estuche::ALTO);
+        if (escala.K() == 0.4) continue;
+        const int menus = Ventana().frm.menuBar()->heightForWidth(estuche.width());
+        EXPECT_LE(estuche.height() + menus + 70, fila.usable.height());
+        EXPECT_LE(estuche.width(), fila.usable.width());
+    }
+    QApplication::setFont(antes);
 }
 
 TEST(Ventana_Principal, keeps_the_case_in_its_middle_whatever_its_size) {
@@ -33,7 +67,8 @@ TEST(Ventana_Principal, keeps_the_case_in_its_middle_whatever_its_size) {
 // Run at several device pixel ratios.
 TEST(Rejilla, images_stand_on_whole_device_pixels_and_neighbours_meet) {
     for (const double k : {1.0, 1.15, 1.2, 1.75, 3.5}) {
-        Ventana v(Ventana::Cajas::Diario, nullptr, Escala::Para({k * 681.01, 10000}));
+        Ventana v(Ventana::Cajas::Diario, nullptr,
+                  Escala::Que_Quepan({10215, 6495}, {k * 681.01, 10000}));
         const Estuche& estuche = v.frm.Tablero();
         const auto lugar = [&](double left, double width, Picture estampa) {
             Image imagen;

@@ -118,7 +118,7 @@ void Ventana::Pases::DoEventsPaced() {
     escritorio.DoEventsPaced();
 }
 
-Ventana::Ventana(Cajas cajas, Oponente* computadora, const Escala& escala)
+Ventana::Ventana(Cajas cajas, Oponente* computadora, Escala escala)
     : frm(partida,
           {cajas == Cajas::Reales ? static_cast<MessageBoxes&>(boxes) : escritorio, pases,
            escritorio, escritorio, escritorio, escritorio, escritorio, escritorio},

@@ -74,7 +74,7 @@ class Ventana {
     enum class Cajas { Diario, Reales };
 
     explicit Ventana(Cajas cajas = Cajas::Diario, Oponente* computadora = nullptr,
-                     const Escala& escala = {});
+                     Escala escala = {});
     /// Loads the window, waits until it is active, and forgets what the journal says about that.
     void Abrir();
     /// Opens when it has not been, puts a position on the board, and turns the sound off.
