@@ -2,25 +2,35 @@
 
 #include <QPalette>
 
+#include "ui/estilo.h"
+
 namespace corvanda::dialogos {
 
 namespace {
 
 constexpr double LETRA = 8.25;  // points, as the layout was drawn for
 
+const QColor GRIS_CLARO(0xdd, 0xda, 0xd4);
+const QColor GRIS_OSCURO(0x54, 0x54, 0x54);
+
 }  // namespace
 
 void Preparar(QDialog& dialogo, Escala escala, double ancho, double alto) {
     dialogo.setFixedSize(escala.Tamano(ancho, alto));
     dialogo.setFont(escala.Letra(LETRA));
-    QPalette colores(QColor(0xdd, 0xda, 0xd4), QColor(0xdd, 0xda, 0xd4));
+    QPalette colores(GRIS_CLARO, GRIS_CLARO);
     colores.setColor(QPalette::Highlight, QColor(0x6b, 0x1f, 0x14));
+    // What cannot be used yet is read all the same.
+    for (const auto letras : {QPalette::ButtonText, QPalette::WindowText})
+        colores.setColor(QPalette::Disabled, letras, GRIS_OSCURO);
+    colores.setColor(QPalette::Disabled, QPalette::Text, Qt::black);
+    colores.setColor(QPalette::Disabled, QPalette::Base, Qt::white);
     dialogo.setPalette(colores);
 }
 
-QLabel* Texto(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
-              Escala escala, const QFont& letra) {
-    auto* etiqueta = new QLabel(texto, &dialogo);
+Letrero* Texto(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
+               Escala escala, const QFont& letra) {
+    auto* etiqueta = new Letrero(texto, &dialogo);
     etiqueta->setObjectName(nombre);
     etiqueta->setTextFormat(Qt::PlainText);
     etiqueta->setFont(letra);
@@ -32,16 +42,15 @@ QPushButton* Boton(QDialog& dialogo, const char* nombre, const QString& texto, S
                    Escala escala) {
     auto* boton = new QPushButton(texto, &dialogo);
     boton->setObjectName(nombre);
+    Estilo::Vestir(*boton);
     boton->setGeometry(escala.Lugar(sitio.left, sitio.top, sitio.width, sitio.height));
     return boton;
 }
 
-void Colorear(QLabel& texto, const QColor& letras, const QColor& placa) {
+void Colorear(QLabel& texto, const QColor& letras) {
     QPalette colores = texto.palette();
     colores.setColor(QPalette::WindowText, letras);
-    if (placa.isValid()) colores.setColor(QPalette::Window, placa);
     texto.setPalette(colores);
-    texto.setAutoFillBackground(placa.isValid());
 }
 
 }  // namespace corvanda::dialogos

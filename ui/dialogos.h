@@ -3,10 +3,10 @@
 #pragma once
 
 #include <QDialog>
-#include <QLabel>
 #include <QPushButton>
 
 #include "ui/escala.h"
+#include "ui/letrero.h"
 
 namespace corvanda::dialogos {
 
@@ -17,11 +17,11 @@ struct Sitio {
     double left, top, width, height;  ///< twips
 };
 
-QLabel* Texto(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
-              Escala escala, const QFont& letra);
+Letrero* Texto(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
+               Escala escala, const QFont& letra);
 QPushButton* Boton(QDialog& dialogo, const char* nombre, const QString& texto, Sitio sitio,
                    Escala escala);
-/// Colours of a label: its letters and, when valid, the plate behind them.
-void Colorear(QLabel& texto, const QColor& letras, const QColor& placa = {});
+/// The colour of a label's letters.
+void Colorear(QLabel& texto, const QColor& letras);
 
 }  // namespace corvanda::dialogos

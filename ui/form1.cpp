@@ -1,12 +1,12 @@
 #include "ui/form1.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 #include <QThread>
 #include <algorithm>
 
 #include "runtime/conversion.h"
 #include "ui/dialogos.h"
+#include "ui/estilo.h"
 
 namespace corvanda {
 
@@ -16,9 +16,11 @@ constexpr int MAS_RAPIDA = 1;
 constexpr int MAS_LENTA = 200;
 constexpr int PASO_CHICO = 1;
 constexpr int PASO_GRANDE = 20;
-constexpr int ESPERA = 500;   // milliseconds before the chip slides
-constexpr double LADO = 480;  // twips of the chip's picture
-constexpr int GRUESO = 3;     // logical pixels of the line below the bar
+constexpr int ESPERA = 500;         // milliseconds before the chip slides
+constexpr double LADO = 480;        // twips of the chip's picture
+constexpr double LETRA = 8.25;      // points
+constexpr double NUMERO = 12;       // points of the value
+constexpr double SEPARACION = 105;  // twips between a caption and what stands beside it
 
 const QColor AZUL_OSCURO(0, 0, 0x80);
 
@@ -50,17 +52,30 @@ Cuadro::Dibujo Form1::Ficha(const char* nombre) const {
     };
 }
 
+// The bold font of the layout, or a smaller one at which a text is no wider than this.
+QFont Form1::Letra_Hasta(const QString& texto, double ancho) const {
+    QFont letra = escala.Letra(LETRA, true);
+    while (letra.pixelSize() > 1 &&
+           QFontMetricsF(letra).horizontalAdvance(texto) > escala.Pixeles(ancho))
+        letra.setPixelSize(letra.pixelSize() - 1);
+    return letra;
+}
+
 void Form1::Poner_Textos() {
-    const QFont letra = escala.Letra(8.25, true);
     const auto poner = [&](const char* nombre, const char* texto, dialogos::Sitio sitio,
-                           Qt::Alignment lado) {
+                           Qt::Alignment lado, const QFont& letra) {
         QLabel* etiqueta = dialogos::Texto(*this, nombre, texto, sitio, escala, letra);
-        etiqueta->setAlignment(lado | Qt::AlignTop);
+        etiqueta->setAlignment(lado | Qt::AlignVCenter);
         dialogos::Colorear(*etiqueta, AZUL_OSCURO);
+        return etiqueta;
     };
-    poner("Label1", "Machine speed :", {840, 480, 1935, 495}, Qt::AlignHCenter);
-    poner("Label2", "1=Fast", {120, 1440, 1095, 255}, Qt::AlignRight);
-    poner("Label3", "200=Slow", {2520, 1440, 1095, 255}, Qt::AlignLeft);
+    const QFont chica = Letra_Hasta("200=Slow", 3480 - 2520 - SEPARACION);
+    poner("Label1", "Machine speed :", {840, 480, 1935, 495}, Qt::AlignHCenter,
+          Letra_Hasta("Machine speed :", 1935));
+    QLabel* rapida = poner("Label2", "1=Fast", {120, 1440, 1095, 255}, Qt::AlignRight, chica);
+    // The bar begins a little before the caption's place ends.
+    rapida->setContentsMargins(0, 0, qRound(escala.Pixeles(15 + SEPARACION)), 0);
+    poner("Label3", "200=Slow", {2520, 1440, 1095, 255}, Qt::AlignLeft, chica);
     Image3 = new Cuadro(this, "Image3", escala.Lugar(3840, 0, LADO, LADO));
     Image3->Mostrar(Ficha("cafe_dialogo"));
     Image3->setAccessibleName("Picture of a brown chip");
@@ -70,7 +85,11 @@ void Form1::Poner_Controles() {
     TxtVel = new QLineEdit(this);
     TxtVel->setObjectName("TxtVel");
     TxtVel->setEnabled(false);
-    TxtVel->setFont(escala.Letra(8.25, true));
+    TxtVel->setFont(escala.Letra(NUMERO, true));
+    TxtVel->setAlignment(Qt::AlignCenter);
+    // The blank that the value begins with is not seen.
+    TxtVel->setTextMargins(0, 0, TxtVel->fontMetrics().horizontalAdvance(' '), 0);
+    Estilo::Vestir(*TxtVel);
     TxtVel->setGeometry(escala.Lugar(1200, 960, 1215, 495));
     TxtVel->setAccessibleName("Machine speed");
 
@@ -83,6 +102,7 @@ void Form1::Poner_Controles() {
     Scroll->setGeometry(escala.Lugar(1200, 1440, 1215, 255));
     Scroll->setAccessibleName("Machine speed, 1 fast to 200 slow");
     Scroll->installEventFilter(this);
+    Estilo::Vestir(*Scroll);
     Scroll->setFocus();
 
     BtnAceptar = dialogos::Boton(*this, "BtnAceptar", "&Ok", {3480, 840, 1215, 395}, escala);
@@ -114,12 +134,9 @@ void Form1::BtnAceptar_Click() {
     accept();
 }
 
-// Many styles draw a bar with the focus like one without, so a line is drawn below it here. There
-// is no room for one at its sides. As the toolkit makes them, bars go left at the right arrow key.
+// As the toolkit makes them, bars go left at the right arrow key.
 bool Form1::eventFilter(QObject* objeto, QEvent* evento) {
-    const auto tipo = evento->type();
-    if (tipo == QEvent::FocusIn || tipo == QEvent::FocusOut) update();
-    if (tipo == QEvent::KeyPress) {
+    if (evento->type() == QEvent::KeyPress) {
         const int tecla = static_cast<QKeyEvent*>(evento)->key();
         const auto paso = tecla == Qt::Key_Left    ? QScrollBar::SliderSingleStepSub
                           : tecla == Qt::Key_Right ? QScrollBar::SliderSingleStepAdd
@@ -130,13 +147,6 @@ bool Form1::eventFilter(QObject* objeto, QEvent* evento) {
         }
     }
     return QDialog::eventFilter(objeto, evento);
-}
-
-void Form1::paintEvent(QPaintEvent* /*evento*/) {
-    if (!Scroll->hasFocus()) return;
-    const QRect barra = Scroll->geometry();
-    const QRect linea(barra.left(), barra.bottom() + 2, barra.width(), GRUESO);
-    QPainter(this).fillRect(linea, palette().color(QPalette::WindowText));
 }
 
 // Esc is the Cancel button, and so does nothing while that cannot be used.

@@ -27,10 +27,10 @@ class Form1 final : public QDialog {
   protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
-    void paintEvent(QPaintEvent* evento) override;
 
   private:
     Cuadro::Dibujo Ficha(const char* nombre) const;
+    QFont Letra_Hasta(const QString& texto, double ancho) const;
     void Poner_Textos();
     void Poner_Controles();
     void Scroll_Change();

@@ -22,7 +22,7 @@ constexpr Integer TECLA_F1 = 112;
 constexpr int CICLO = 10;             // milliseconds of one cycle of the computer's pause
 constexpr int VUELO_MAS_LARGO = 200;  // milliseconds
 constexpr int PAUSA_SIN_VUELO = 60;   // a shorter pause leaves no time to follow a chip
-constexpr int AIRE_DEL_TITULO = 12;  // logical pixels a title bar has above and below its letters
+constexpr int AIRE_DEL_TITULO = 12;   // logical pixels a title bar has above and below its letters
 
 QWidget* Hacer_Fondo(QWidget* ventana) {
     auto* fondo = new QWidget(ventana);

@@ -5,6 +5,7 @@
 
 #include "runtime/conversion.h"
 #include "ui/dialogos.h"
+#include "ui/paleta.h"
 
 namespace corvanda {
 
@@ -14,8 +15,7 @@ constexpr unsigned long ESPERA = 400;  // milliseconds between White's throw and
 
 const QColor BLANCO(Qt::white);
 const QColor ROJO(0x80, 0, 0);
-const QColor PLACA_OSCURA(0x3a, 0x20, 0x14);
-const QColor PLACA_CLARA(0xf3, 0xea, 0xd0);
+constexpr double CONTORNO = 25;  // twips on each side of a white letter
 
 }  // namespace
 
@@ -36,22 +36,26 @@ FrmVolado::FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, Esc
     const QFont fina = escala.Letra(8.25, true);
     Image1 = new Cuadro(this, "Image1", escala.Lugar(540, 120, 480, 480));
     Image2 = new Cuadro(this, "Image2", escala.Lugar(2100, 120, 480, 480));
-    QLabel* blanca = Texto(*this, "Label2", "Player 1", {60, 720, 1455, 255}, escala, fina);
-    QLabel* cafe = Texto(*this, "Label3", "Player 2", {1740, 720, 1335, 255}, escala, fina);
+    Letrero* blanca = Texto(*this, "Label2", "Player 1", {60, 720, 1455, 255}, escala, fina);
+    Letrero* cafe = Texto(*this, "Label3", "Player 2", {1740, 720, 1335, 255}, escala, fina);
     Label1 = Texto(*this, "Label1", {}, {360, 1020, 2415, 735}, escala, escala.Letra(9.75, true));
     Btn = Boton(*this, "Btn", "&White Chips", {840, 1800, 1455, 315}, escala);
 
     voz = new Voz(this);
 
-    for (Cuadro* imagen : {Image1, Image2}) imagen->setAccessibleName("Die: not thrown");
+    for (Cuadro* imagen : {Image1, Image2}) {
+        Mostrar(imagen, "dado_vacio");
+        imagen->setAccessibleName("Die: not thrown");
+    }
     Image1->setAccessibleDescription("White's die");
     Image2->setAccessibleDescription("Brown's die");
     Label1->setAccessibleDescription("Who starts");
-    for (QLabel* nombre : {blanca, cafe}) nombre->setAlignment(Qt::AlignCenter);
-    Colorear(*blanca, BLANCO, PLACA_OSCURA);
-    Colorear(*cafe, ROJO, PLACA_CLARA);
-    Label1->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    Label1->setWordWrap(true);
+    for (Letrero* nombre : {blanca, cafe}) nombre->setAlignment(Qt::AlignCenter);
+    Colorear(*blanca, BLANCO);
+    blanca->Contornear(paleta::NOGAL, escala.Pixeles(CONTORNO));
+    Colorear(*cafe, ROJO);
+    Label1->setAlignment(Qt::AlignCenter);
+    Label1->No_Partir({"White Chips", "Brown Chips"});
     Btn->setDefault(true);
     connect(Btn, &QPushButton::clicked, this, &FrmVolado::Btn_Click);
     Form_Load();
@@ -63,7 +67,7 @@ void FrmVolado::Form_Load() {
 
 void FrmVolado::Btn_Click() {
     if (Btn->text() == "&White Chips") {
-        Tiro_Blanca = Tirar(Image1, "White");
+        Tiro_Blanca = Tirar(Image1, "White", {});
         Btn->setText("&Brown Chips");
         if (modulo.Nivel == DOS_PERSONAS) return;
         // The computer throws by itself. No event is handled while its die is waited for.
@@ -77,19 +81,24 @@ void FrmVolado::Btn_Click() {
     }
 }
 
-Byte FrmVolado::Tirar(Cuadro* imagen, const char* bando) {
+void FrmVolado::Mostrar(Cuadro* imagen, const QString& dibujo) {
+    imagen->Mostrar([this, dibujo, tamano = imagen->size()](qreal ratio) {
+        return estampas.De(dibujo, tamano * ratio, ratio);
+    });
+}
+
+// Each side's die is of the material of its chips.
+Byte FrmVolado::Tirar(Cuadro* imagen, const char* bando, const QString& material) {
     const Byte tiro = CByte(azar.Rnd() * 5);
     const auto cara = static_cast<Picture>(static_cast<int>(Picture::Dado1) + tiro);
-    imagen->Mostrar([this, cara, tamano = imagen->size()](qreal ratio) {
-        return estampas.De(cara, tamano * ratio, ratio);
-    });
+    Mostrar(imagen, Estampas::Nombre_De(cara) + material);
     imagen->setAccessibleName(QString("Die: %1").arg(tiro + 1));
     voz->Decir(QString("%1 throws %2.").arg(bando).arg(tiro + 1));
     return tiro;
 }
 
 void FrmVolado::Tirar_Cafe() {
-    Tiro_Cafe = Tirar(Image2, "Brown");
+    Tiro_Cafe = Tirar(Image2, "Brown", "_cafe");
     Btn->setText("&Close");
     Decidir();
 }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QLabel>
 #include <QPushButton>
 #include <functional>
 
@@ -12,6 +11,7 @@
 #include "ui/cuadro.h"
 #include "ui/escala.h"
 #include "ui/estampas.h"
+#include "ui/letrero.h"
 #include "ui/voz.h"
 
 namespace corvanda {
@@ -32,7 +32,8 @@ class FrmVolado final : public QDialog {
 
   private:
     void Form_Load();
-    Byte Tirar(Cuadro* imagen, const char* bando);
+    void Mostrar(Cuadro* imagen, const QString& dibujo);
+    Byte Tirar(Cuadro* imagen, const char* bando, const QString& material);
     void Tirar_Cafe();
     void Decidir();
 
@@ -44,7 +45,7 @@ class FrmVolado final : public QDialog {
 
     Cuadro* Image1 = nullptr;
     Cuadro* Image2 = nullptr;
-    QLabel* Label1 = nullptr;
+    Letrero* Label1 = nullptr;
     QPushButton* Btn = nullptr;
     Voz* voz = nullptr;
     Byte Tiro_Blanca = 0;  // 0..5, the face less one
