@@ -2,7 +2,6 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
-#include <thread>
 
 namespace corvanda {
 
@@ -26,7 +25,7 @@ void QtEventLoop::DoEvents() {
 }
 
 void QtEventLoop::DoEventsPaced() {
-    const auto now = Clock::now();
+    const auto now = clock.now();
     const bool anew = now - deadline > longest_gap;
     // A pass inside this one moves the member on; this pass keeps the end that it was given.
     const auto end = (anew ? now : deadline) + slot;
@@ -35,7 +34,7 @@ void QtEventLoop::DoEventsPaced() {
     // What arrives during the sleep waits for the next pass, a few milliseconds. The toolkit's own
     // way to wait (a nested loop with a timer) does not run any more once the program was told to
     // quit.
-    std::this_thread::sleep_until(end);
+    clock.sleep_until(end);
 }
 
 }  // namespace corvanda

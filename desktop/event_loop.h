@@ -6,13 +6,26 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
+#include <thread>
+#include <utility>
 
 #include "runtime/ports.h"
 
 namespace corvanda {
 
+/// By which a pass knows the time and waits; tests turn one of their own.
+struct PaceClock {
+    using Point = std::chrono::steady_clock::time_point;
+
+    std::function<Point()> now = std::chrono::steady_clock::now;
+    std::function<void(Point)> sleep_until = [](Point end) { std::this_thread::sleep_until(end); };
+};
+
 class QtEventLoop final : public EventLoop {
   public:
+    explicit QtEventLoop(PaceClock clock = {}) : clock(std::move(clock)) {}
+
     void DoEvents() override;
 
     /// Calls that follow each other keep a common schedule, so that three of them last ten
@@ -22,9 +35,8 @@ class QtEventLoop final : public EventLoop {
     void DoEventsPaced() override;
 
   private:
-    using Clock = std::chrono::steady_clock;
-
-    Clock::time_point deadline{};  ///< when the last paced pass was to end
+    const PaceClock clock;
+    PaceClock::Point deadline{};  ///< when the last paced pass was to end
 };
 
 }  // namespace corvanda

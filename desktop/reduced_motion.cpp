@@ -1,7 +1,6 @@
 #include "desktop/reduced_motion.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -46,8 +45,10 @@ bool Unwrapped(QVariant value) {
 }  // namespace
 
 void ReducedMotion::Ask() {
-    if (!BusRuns()) return;
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (BusRuns()) Ask(QDBusConnection::sessionBus());
+}
+
+void ReducedMotion::Ask(QDBusConnection bus) {
     if (!bus.isConnected()) return;
     QDBusMessage question =
         QDBusMessage::createMethodCall(service, path, settings, QStringLiteral("Read"));

@@ -6,6 +6,7 @@
 // animates asks the style. No answer is waited for, and where there is no bus none is asked.
 #pragma once
 
+#include <QDBusConnection>
 #include <QDBusVariant>
 #include <QObject>
 
@@ -17,6 +18,8 @@ class ReducedMotion final : public QObject {
   public:
     /// After the application's first window is shown, so that no start waits for the bus.
     void Ask();
+    /// By a bus of the caller's.
+    void Ask(QDBusConnection bus);
 
   private slots:
     /// A setting of the desktop has a new value; all are told here, under the name of their group.

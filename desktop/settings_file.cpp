@@ -19,7 +19,6 @@ namespace corvanda {
 namespace {
 
 constexpr qint64 largest_file = 1 << 20;
-constexpr std::chrono::seconds lock_patience{2};
 
 constexpr QLatin1StringView no_room("there is no room left on the disk");
 constexpr QLatin1StringView no_folder("the folder cannot be written");
@@ -98,8 +97,8 @@ QString Replace(const QString& name, const QByteArray& bytes, bool aside) {
 }  // namespace
 
 SettingsFile::SettingsFile()
-    : file(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/corvanda/settings.json")) {}
+    : SettingsFile(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                   QStringLiteral("/corvanda/settings.json")) {}
 
 std::string SettingsFile::GetSetting(const std::string& application, const std::string& section,
                                      const std::string& key, const std::string& otherwise) {
@@ -134,7 +133,7 @@ QString SettingsFile::Write() {
     const QString target = Followed(file);
     if (!QDir().mkpath(QFileInfo(target).path())) return no_folder;
     // Another copy of the program may be between its reading and its writing just now.
-    const FolderLock lock(QFileInfo(target).path(), lock_patience);
+    const FolderLock lock(QFileInfo(target).path(), patience);
     if (!lock.Held()) return locked;
     SweepUp(target);
     Contents contents = ReadContents(target);

@@ -9,6 +9,7 @@
 
 #include <QJsonObject>
 #include <QString>
+#include <chrono>
 #include <map>
 #include <optional>
 #include <tuple>
@@ -22,7 +23,9 @@ class SettingsFile final : public SettingsStore {
   public:
     /// The file under the desktop's configuration folder.
     SettingsFile();
-    explicit SettingsFile(QString file) : file(std::move(file)) {}
+    /// Waits so long for another program to let go of the file.
+    explicit SettingsFile(QString file, std::chrono::milliseconds patience = lock_patience)
+        : file(std::move(file)), patience(patience) {}
 
     /// Reads the file at the first call only. What SaveSetting noted is not answered before Commit.
     std::string GetSetting(const std::string& application, const std::string& section,
@@ -41,10 +44,13 @@ class SettingsFile final : public SettingsStore {
   private:
     using Address = std::tuple<QString, QString, QString>;
 
+    static constexpr std::chrono::seconds lock_patience{2};
+
     QString Write();
     void Merge(QJsonObject& all) const;
 
-    QString file;
+    const QString file;
+    const std::chrono::milliseconds patience;
     std::optional<QJsonObject> read;
     std::map<Address, QString> noted;
 };

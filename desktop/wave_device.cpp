@@ -12,8 +12,6 @@ namespace corvanda {
 
 namespace {
 
-/// Long enough that the moves of one turn find the device open.
-constexpr std::chrono::seconds quiet_time{2};
 /// Frames that the library hands over at once, about 23 milliseconds. With half as many, sounds
 /// crackle on a machine that has other work to do; with twice as many, they come late.
 constexpr int frames_at_once = 1024;
@@ -52,7 +50,7 @@ bool WaveDevice::Start() {
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_ROLE, "game");
     started = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
-    rest_at = Clock::now() + quiet_time;
+    rest_at = Clock::now() + quiet;
     return started;
 }
 
@@ -92,8 +90,7 @@ bool WaveDevice::Play(wave::Samples samples) {
     SDL_UnlockAudioDevice(device);
     SDL_PauseAudioDevice(device, 0);
     const auto bytes = static_cast<std::int64_t>(samples.size());
-    rest_at =
-        Clock::now() + quiet_time + std::chrono::milliseconds(bytes * 1000 / wave::BytesPerSecond);
+    rest_at = Clock::now() + quiet + std::chrono::milliseconds(bytes * 1000 / wave::BytesPerSecond);
     playing = std::move(samples);
     return true;
 }

@@ -16,7 +16,8 @@ class WaveDevice {
   public:
     using Clock = std::chrono::steady_clock;
 
-    WaveDevice() = default;
+    /// `quiet` is how long the device is kept open without a sound.
+    explicit WaveDevice(std::chrono::milliseconds quiet) : quiet(quiet) {}
     ~WaveDevice();
     WaveDevice(const WaveDevice&) = delete;
     WaveDevice& operator=(const WaveDevice&) = delete;
@@ -38,6 +39,7 @@ class WaveDevice {
     bool Start();
     bool Open();
 
+    const std::chrono::milliseconds quiet;
     bool started = false;
     std::uint32_t device = 0;  ///< 0 is no device to the library as well
     Clock::time_point rest_at{};

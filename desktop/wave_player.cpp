@@ -11,24 +11,23 @@ namespace corvanda {
 namespace {
 
 constexpr std::chrono::milliseconds patience_for_count{1500};
-constexpr std::chrono::milliseconds patience_for_end{1000};
 
 }  // namespace
 
-SdlWaveOut::SdlWaveOut(std::string folder, std::function<void()> beep)
-    : folder(std::move(folder)), beep(std::move(beep)) {}
+SdlWaveOut::SdlWaveOut(std::string folder, std::function<void()> beep, WavePatience patience)
+    : folder(std::move(folder)), beep(std::move(beep)), patience(patience) {}
 
 SdlWaveOut::~SdlWaveOut() {
     if (!worker) return;
     worker->ForgetEar();
     thread.request_stop();
     // Joining a thread that the sound server holds would hold the program, too.
-    if (!worker->WaitForEnd(patience_for_end)) thread.detach();
+    if (!worker->WaitForEnd(patience.end)) thread.detach();
 }
 
 WaveWorker& SdlWaveOut::Worker() {
     if (!worker) {
-        worker = std::make_shared<WaveWorker>(ear, beep);
+        worker = std::make_shared<WaveWorker>(ear, beep, patience.quiet);
         thread = std::jthread([kept = worker](const std::stop_token& stop) { kept->Run(stop); });
     }
     return *worker;

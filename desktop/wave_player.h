@@ -9,6 +9,7 @@
 #pragma once
 
 #include <QObject>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <thread>
@@ -19,13 +20,22 @@ namespace corvanda {
 
 class WaveWorker;
 
+/// How long the player waits; tests have less time.
+struct WavePatience {
+    /// For another sound before the device is given back: the moves of one turn find it open.
+    std::chrono::milliseconds quiet{2000};
+    /// For the worker at the end.
+    std::chrono::milliseconds end{1000};
+};
+
 class SdlWaveOut final : public WaveOut {
   public:
     /// `folder` is the program's folder as App::Path gives it; sounds are addressed below it.
     /// `beep` sounds the system beep, always in the GUI thread.
-    explicit SdlWaveOut(std::string folder, std::function<void()> beep = SystemBeep);
-    /// Cuts off what still plays. A worker that the sound server does not let go within a second is
-    /// left behind; it touches nothing of this object any more.
+    explicit SdlWaveOut(std::string folder, std::function<void()> beep = SystemBeep,
+                        WavePatience patience = {});
+    /// Cuts off what still plays. A worker that the sound server does not let go in time is left
+    /// behind; it touches nothing of this object any more.
     ~SdlWaveOut() override;
     SdlWaveOut(const SdlWaveOut&) = delete;
     SdlWaveOut& operator=(const SdlWaveOut&) = delete;
@@ -46,6 +56,7 @@ class SdlWaveOut final : public WaveOut {
 
     std::string folder;
     std::function<void()> beep;
+    const WavePatience patience;
     bool asked = false;  ///< for the number of devices
     QObject ear;         ///< receives the worker's wish for a beep in the GUI thread
     std::shared_ptr<WaveWorker> worker;

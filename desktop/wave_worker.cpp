@@ -8,7 +8,7 @@ namespace corvanda {
 
 void WaveWorker::Run(const std::stop_token& stop) {
     {
-        WaveDevice device;
+        WaveDevice device(quiet);
         while (!stop.stop_requested()) Do(Next(stop, device), device);
     }
     const std::lock_guard lock(mutex);

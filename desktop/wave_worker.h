@@ -24,7 +24,9 @@ class WaveWorker {
     using Milliseconds = std::chrono::milliseconds;
 
     /// `beep` is called in the thread of `ear`, by an event to it; `ear` must live until ForgetEar.
-    WaveWorker(QObject& ear, std::function<void()> beep) : ear(&ear), beep(std::move(beep)) {}
+    /// `quiet` is for the device.
+    WaveWorker(QObject& ear, std::function<void()> beep, Milliseconds quiet)
+        : ear(&ear), beep(std::move(beep)), quiet(quiet) {}
 
     /// The thread's function; returns soon after a stop was requested. A second run is not
     /// possible.
@@ -59,6 +61,7 @@ class WaveWorker {
     bool ended = false;
     QObject* ear;
     std::function<void()> beep;
+    const Milliseconds quiet;
 };
 
 }  // namespace corvanda

@@ -157,28 +157,5 @@ TEST_F(MediaTest, a_film_is_opened_shown_played_rewound_and_closed) {
     }
 }
 
-TEST_F(MediaTest, damaged_films_play_or_leave_the_window_black) {
-    const QByteArray good = Avi(r + g + b);
-    const auto movi = good.indexOf("movi");
-    std::vector<QByteArray> all = {Noise(3000), Avi(Noise(3000))};
-    for (int i = 0; i < 120; ++i) all.push_back(good.left(i));
-    for (unsigned seed = 0; seed < 200; ++seed)
-        all.push_back(Damaged(good, seed, seed % 2 == 0 ? 140 : good.size()));
-    for (const quint32 size : {0xffffffffU, 0xfffffff7U, 0x80000000U, 0x7fffffffU, 3U, 1U, 0U}) {
-        for (const auto at : {qsizetype{4}, movi - 4, good.indexOf("00dc") + 4})
-            all.push_back(QByteArray(good).replace(at, 4, Number(size)));
-    }
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        WriteBytes(folder.filePath("A.avi"), all[i]);
-        const std::string done = Send("Open A Wait");
-        for (const char* command :
-             {"Window A handle W", "Put A destination at 0 0 200 150", "Seek A to 0", "Play A"})
-            EXPECT_EQ(Send(command), done) << i << command;
-        EXPECT_TRUE(done == "ok" || Seen() == 'k') << i;
-        for (const char* command : {"Seek A to 1", "Seek A to 2"}) Send(command);
-        EXPECT_EQ(Send("Close A"), done) << i;
-    }
-}
-
 }  // namespace
 }  // namespace corvanda::pruebas

@@ -22,7 +22,7 @@ class SettingsFileTest : public testing::Test {
         return SettingsFile(file).GetSetting(of, "Config", "Sonido", "default");
     }
     std::string Store(const std::string& value, const std::string& of = app) const {
-        SettingsFile settings(file);
+        SettingsFile settings(file, 0ms);
         settings.SaveSetting(of, "Config", "Sonido", value);
         return settings.Commit();
     }
