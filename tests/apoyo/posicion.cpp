@@ -68,6 +68,7 @@ void Poner_Bando(Juego& juego, Partida& partida, const Bando& bando, const std::
             }
         }
     }
+    EXPECT_LE(ficha, FICHAS) << texto;
     Integer& altura = bando.color == BLANCA ? partida.Altura_Blanca : partida.Altura_Cafe;
     for (; ficha < FICHAS; ++ficha) {
         Dejar(partida, {bando.fichas, ficha}, bando.bandeja, bando.bandeja_left,
@@ -84,7 +85,7 @@ void Poner_Dados(Partida& partida, const std::string& caras, const std::string& 
         const auto muestra = static_cast<std::size_t>(std::max(caras_de.at(i) - 1, 0));
         partida.Dado.at(i).Shown = partida.Dados.at(muestra).Shown;
     }
-    const int quedan = partida.Dado1 == partida.Dado2 ? 2 : 0;
+    const int quedan = partida.Dado1 != 0 && partida.Dado1 == partida.Dado2 ? 2 : 0;
     partida.Dobles = static_cast<Byte>(dobles.empty() ? quedan : std::stoi(dobles));
 }
 

@@ -15,7 +15,6 @@ constexpr double RATIO = 2;
 /// A picture of so many logical pixels, filled with a colour.
 QImage Hoja(QSizeF tamano, const QColor& color);
 
-/// Nothing when the position is none that a game can have: what is wrong is told.
 QImage Dibujar(const Lamina& lamina, corvanda::Estampas& estampas);
 
 }  // namespace laminas

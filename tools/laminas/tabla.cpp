@@ -4,6 +4,8 @@
 #include <initializer_list>
 #include <string>
 
+#include "core/partida.h"
+
 using namespace corvanda;
 
 namespace laminas {
@@ -23,7 +25,7 @@ const QRectF ENTERO(0, 0, 9135, 6075);
 const QRectF CASA_DE_CAFE(0, 0, 5760, 3855);
 const QRectF CASA_DE_BLANCA(0, 2835, 5760, 3240);
 
-const Posicion PRINCIPIO{{{0, 2}, {11, 5}, {16, 3}, {18, 5}}, {{5, 5}, {7, 3}, {12, 5}, {23, 2}}};
+constexpr const char* PRINCIPIO = "B 0x2 11x5 16x3 18x5 | C 5x5 7x3 12x5 23x2 | dice 0 0";
 
 // On the middle line of a point.
 QPointF En(Integer punto, double alto) {
@@ -84,9 +86,7 @@ Marcas Con(Marcas primeras, std::initializer_list<Marca> otras) {
 void Pantalla_Y_Principio(std::vector<Lamina>& tabla) {
     tabla.push_back(
         {"screen",
-         {{{BARRA_BLANCA, 1}, {6, 1}, {11, 4}, {16, 3}, {18, 3}, {20, 2}, {21, 1}},
-          {{0, 2}, {1, 3}, {2, 2}, {3, 2}, {4, 1}, {5, 1}, {BARRA_CAFE, 1}, {BANDEJA_CAFE, 3}},
-          {5, 3}},
+         "B 6x1 11x4 16x3 18x3 20x2 21x1 bar1 | C 0x2 1x3 2x2 3x2 4x1 5x1 bar1 | dice 5 3",
          ENTERO,
          0.92,
          {Numero(1, En(8, 1500)), Numero(2, {4837, 2700}), Numero(3, {1010, 2520}),
@@ -99,7 +99,7 @@ void Pantalla_Y_Principio(std::vector<Lamina>& tabla) {
                       Cuantas(5, 11, BLANCA), Cuantas(5, 12, CAFE), Cuantas(3, 16, BLANCA),
                       Cuantas(5, 18, BLANCA), Cuantas(2, 23, CAFE)}});
     tabla.push_back({"stacks",
-                     {{{2, 6}, {3, 5}, {18, 4}}, {{12, 5}, {14, 1}, {20, 4}, {21, 5}}},
+                     "B 2x6 3x5 18x4 | C 12x5 14x1 20x4 21x5 | dice 0 0",
                      {1920, 0, 1530, 6075},
                      0.74,
                      {}});
@@ -138,31 +138,25 @@ void Caminos(std::vector<Lamina>& tabla) {
 
 void Jugadas(std::vector<Lamina>& tabla) {
     tabla.push_back({"move",
-                     {{{0, 2}, {3, 1}, {11, 4}, {16, 3}, {18, 5}},
-                      {{4, 2}, {7, 3}, {12, 5}, {14, 3}, {23, 2}},
-                      {5, 2}},
+                     "B 0x2 3x1 11x4 16x3 18x5 | C 4x2 7x3 12x5 14x3 23x2 | dice 5 2",
                      {765, 40, 4980, 3855},
                      1,
                      {Flecha({1400, 1270}, {1850, 1950}, En(2, 1250), "2"),
                       Flecha({1250, 1340}, {2650, 3100}, En(5, 1400), "5")}});
     tabla.push_back({"closed",
-                     {{{0, 2}, {4, 1}, {11, 4}, {16, 3}, {18, 5}},
-                      {{1, 1}, {3, 2}, {5, 3}, {7, 3}, {12, 4}, {23, 2}}},
+                     "B 0x2 4x1 11x4 16x3 18x5 | C 1x1 3x2 5x3 7x3 12x4 23x2 | dice 0 0",
                      {765, 40, 3975, 2745},
                      1,
                      Signos(1, 1, SIGNOS_ARRIBA, "++-+-")});
     const QRectF esquina(0, 0, 4860, 4050);
-    tabla.push_back(
-        {"hit1",
-         {{{1, 2}, {11, 5}, {16, 3}, {18, 5}}, {{4, 1}, {5, 4}, {7, 3}, {12, 5}, {14, 2}}, {3, 1}},
-         esquina,
-         0.8,
-         {Flecha({1900, 1330}, {2900, 2000}, En(4, 800), "3")}});
+    tabla.push_back({"hit1",
+                     "B 1x2 11x5 16x3 18x5 | C 4x1 5x4 7x3 12x5 14x2 | dice 3 1",
+                     esquina,
+                     0.8,
+                     {Flecha({1900, 1330}, {2900, 2000}, En(4, 800), "3")}});
     tabla.push_back(
         {"hit2",
-         {{{1, 1}, {4, 1}, {11, 5}, {16, 3}, {18, 5}},
-          {{BARRA_CAFE, 1}, {5, 4}, {7, 3}, {12, 5}, {14, 2}},
-          {0, 1}},
+         "B 1x1 4x1 11x5 16x3 18x5 | C 5x4 7x3 12x5 14x2 bar1 | dice 0 1",
          esquina,
          0.8,
          {{Clase::Anillo, {Ficha(4, 0, BLANCA)}, {}}, {Clase::Anillo, {{555, 3577}}, {}}}});
@@ -170,47 +164,26 @@ void Jugadas(std::vector<Lamina>& tabla) {
 
 void Entradas(std::vector<Lamina>& tabla) {
     tabla.push_back(
-        {"enter",
-         {{{BARRA_BLANCA, 1}, {11, 5}, {16, 4}, {18, 5}},
-          {{1, 1}, {2, 2}, {4, 2}, {5, 3}, {7, 3}, {12, 4}},
-          {4, 2}},
-         CASA_DE_CAFE,
-         1,
+        {"enter", "B 11x5 16x4 18x5 bar1 | C 1x1 2x2 4x2 5x3 7x3 12x4 | dice 4 2", CASA_DE_CAFE, 1,
          Con(Casa(true, "++-+--"), {Flecha({500, 2250}, {620, 780}, {1540, 540}, "2"),
                                     Flecha({640, 2300}, {1400, 1500}, En(3, 1450), "4")})});
     tabla.push_back(
-        {"enter_brown",
-         {{{22, 1}, {20, 2}, {11, 4}, {16, 3}, {13, 5}},
-          {{BARRA_CAFE, 1}, {5, 5}, {7, 4}, {10, 5}},
-          {4, 2}},
-         CASA_DE_BLANCA,
-         1,
+        {"enter_brown", "B 22x1 20x2 11x4 16x3 13x5 | C 5x5 7x4 10x5 bar1 | dice 4 2",
+         CASA_DE_BLANCA, 1,
          Con(Casa(false, "+++-++"), {Flecha({555, 3800}, {620, 5350}, {1540, 5600}, "2")})});
 }
 
 void Salidas(std::vector<Lamina>& tabla) {
-    tabla.push_back({"bear_exact",
-                     {{{23, 1}, {22, 2}, {21, 2}, {20, 2}, {19, 3}, {18, 3}, {BANDEJA_BLANCA, 2}},
-                      {{7, 5}, {9, 5}, {10, 5}},
-                      {5, 2}},
-                     CASA_DE_BLANCA,
-                     1,
+    tabla.push_back({"bear_exact", "B 23x1 22x2 21x2 20x2 19x3 18x3 | C 7x5 9x5 10x5 | dice 5 2",
+                     CASA_DE_BLANCA, 1,
                      Con(Casa(false), {Flecha({3400, 4560}, {1900, 4400}, {480, 4560}, "5"),
                                        Flecha({1640, 5090}, {1060, 4930}, {480, 5090}, "2")})});
     tabla.push_back(
-        {"bear_larger",
-         {{{23, 1}, {22, 2}, {21, 2}, {BANDEJA_BLANCA, 10}}, {{7, 5}, {9, 5}, {10, 5}}, {6, 2}},
-         CASA_DE_BLANCA,
-         1,
+        {"bear_larger", "B 23x1 22x2 21x2 | C 7x5 9x5 10x5 | dice 6 2", CASA_DE_BLANCA, 1,
          Con(Casa(false), {{Clase::Zona, {{2720, 4280}, {4560, 5960}}, {}, Tinta::Verde},
                            Flecha({2270, 4900}, {1500, 4350}, {600, 4500}, "6")})});
     tabla.push_back(
-        {"bear_refused",
-         {{{23, 1}, {22, 2}, {21, 2}, {19, 1}, {BANDEJA_BLANCA, 9}},
-          {{7, 5}, {9, 5}, {10, 5}},
-          {6, 2}},
-         CASA_DE_BLANCA,
-         1,
+        {"bear_refused", "B 23x1 22x2 21x2 19x1 | C 7x5 9x5 10x5 | dice 6 2", CASA_DE_BLANCA, 1,
          Con(Casa(false), {{Clase::Anillo, {Ficha(19, 0, BLANCA)}, {}},
                            Flecha({2270, 4900}, {1500, 4350}, {600, 4500}, "", Tinta::Roja)})});
 }

@@ -1,12 +1,9 @@
 #include "tools/laminas/ventanas.h"
 
-#include <QCoreApplication>
 #include <QPainter>
 #include <array>
 
 #include "tools/laminas/mesa.h"
-#include "ui/form1.h"
-#include "ui/frm_volado.h"
 
 using namespace corvanda;
 
@@ -18,49 +15,12 @@ const QColor PAPEL(0xfd, 0xfa, 0xf3);  // that of the help's pages
 const QColor TINTA(0x2b, 0x20, 0x1a);
 const QColor MARCO(0x8a, 0x7d, 0x6c);
 
-/// Says the next of the throws that it was given.
-class Tiros final : public RandomNumbers {
-  public:
-    explicit Tiros(std::array<Integer, 2> caras) : caras(caras) {}
-    double Rnd() override { return (caras.at(cual++) - 1) / 5.0; }
-    void Randomize() override {}
-
-  private:
-    std::array<Integer, 2> caras;
-    std::size_t cual = 0;
-};
-
-// The inner part of a window, framed by a line because the page is as light as the window.
-QImage Retrato(QDialog& ventana) {
-    const QSize tamano = ventana.size();
-    QImage hoja = Hoja(tamano + QSize(2, 2), MARCO);
-    QPainter pintor(&hoja);
-    pintor.drawPixmap(1, 1, ventana.grab());
-    return hoja;
-}
-
 }  // namespace
 
-QImage Quien_Empieza(Estampas& estampas) {
-    Modulo1 modulo;
-    Tiros tiros({5, 3});
-    const Escala escala;
-    FrmVolado ventana(nullptr, modulo, tiros, escala, estampas, [] {});
-    ventana.show();
-    ventana.Btn_Click();
-    ventana.Btn_Click();
-    return Retrato(ventana);
-}
-
-QImage Velocidad(Estampas& estampas) {
-    Modulo1 modulo;
-    modulo.Velocidad = 100;
-    const Escala escala;
-    Form1 ventana(nullptr, modulo, escala, estampas);
-    ventana.show();
-    const auto* aceptar = ventana.findChild<QPushButton*>("BtnAceptar");
-    while (!aceptar->isEnabled()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return Retrato(ventana);
+QImage Enmarcada(const QImage& ventana) {
+    QImage hoja = Hoja(ventana.deviceIndependentSize() + QSizeF(2, 2), MARCO);
+    QPainter(&hoja).drawImage(1, 1, ventana);
+    return hoja;
 }
 
 // One block for each of ten throws.

@@ -1,5 +1,5 @@
-// The pictures that are no part of a board: two dialogs of the game as they are, and how often each
-// face of a die comes up.
+// The pictures that are no part of a board: a dialog of the game, and how often each face of a die
+// comes up.
 #pragma once
 
 #include <QImage>
@@ -8,10 +8,8 @@
 
 namespace laminas {
 
-/// White throws a 5, Brown a 3.
-QImage Quien_Empieza(corvanda::Estampas& estampas);
-/// At the speed of a first start, after the chip has slid across the window.
-QImage Velocidad(corvanda::Estampas& estampas);
+/// The inner part of a window, framed by a line because the page is as light as the window.
+QImage Enmarcada(const QImage& ventana);
 QImage Frecuencias(corvanda::Estampas& estampas);
 
 }  // namespace laminas
