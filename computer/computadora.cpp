@@ -74,7 +74,7 @@ void Computadora::Jugar_Una(Juego& juego, Integer& Mayor, Integer& Menor) {
     Busqueda busqueda(juego);
     if (Pila_En(juego.Estado(), BARRA_CAFE).Cuenta() > 0) {
         Meter_Ficha(juego, Mayor, Menor);
-    } else if (juego.Estado().Cafe_En_Casa == True) {
+    } else if (juego.Estado().Cafe_En_Casa != False) {
         busqueda.Sacar(Mayor, Menor);
     } else {
         busqueda.Buscar_Tiro(Mayor, Menor);

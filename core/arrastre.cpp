@@ -37,16 +37,15 @@ void Juego::Presionar(Integer color, Integer Index, Integer Button) {
     }
 }
 
-// Whether presses, drops and the pass command are for nobody just now: the old dice are still
-// shown, a new game waits for the old one to unwind, or the winner is announced.
+// Neither does anything count while the winner is announced.
 bool Juego::Entrada_Cerrada() const {
-    return Cerrando() || sin_entrada || peticion.has_value() || Hay_Ganador();
+    return vigencia.Entrada_Cerrada() || Hay_Ganador();
 }
 
 // In the computer's turn Brown's chips are the computer's own, and nobody's while events run.
 bool Juego::Puede_Jugar(Integer color) const {
-    return partida.Turno == color && partida.Jugando == True &&
-           !(color == CAFE && computadora_juega && !computadora_actua);
+    return partida.Turno == color && partida.Jugando != False &&
+           !(color == CAFE && vigencia.Cafe_De_Nadie());
 }
 
 bool Juego::Se_Puede_Tomar(Control ficha) const {

@@ -1,7 +1,5 @@
 // Set-up: the members of the control arrays, the board's pictures, the starting position, and the
 // beginning of a game.
-#include <utility>
-
 #include "core/comprobada.h"
 #include "core/juego.h"
 #include "runtime/hourglass.h"
@@ -90,23 +88,22 @@ void Juego::Ordenar() {
 }
 
 void Juego::Empezar(Byte nivel, Volado& volado) {
-    peticion = Peticion{nivel, &volado};
-    vigencia.Empezar_Otra();
+    vigencia.Pedir({nivel, &volado});
     Atender_Peticiones();
 }
 
 // Games begin here one after the other, never one inside another: what a new game interrupts
 // unwinds first, so that the stack does not grow however often somebody changes their mind.
 void Juego::Atender_Peticiones() {
-    if (profundidad > 0 || atendiendo) return;
-    const Mientras atiende(atendiendo);
-    while (peticion && !Cerrando()) Abrir(*std::exchange(peticion, std::nullopt));
+    if (!vigencia.Puede_Empezar()) return;
+    const Mientras empieza = vigencia.Empezar();
+    while (const auto nueva = vigencia.Siguiente()) Abrir(*nueva);
 }
 
-void Juego::Abrir(const Peticion& nueva) {
+void Juego::Abrir(const Vigencia::Peticion& nueva) {
     partida.Nivel = nueva.nivel;
     Ordenar();
-    sin_entrada = true;
+    vigencia.Cerrar_Entrada();
     const auto testigo = vigencia.Tomar();
     nueva.volado->Mostrar();
     if (vigencia.Sigue(testigo)) Tirar_Dados();

@@ -5,27 +5,11 @@
 
 namespace corvanda {
 
-namespace {
-
-/// Counts a level of nesting for as long as a procedure runs.
-class Dentro {
-  public:
-    explicit Dentro(int& profundidad) : profundidad(profundidad) { ++profundidad; }
-    ~Dentro() { --profundidad; }
-    Dentro(const Dentro&) = delete;
-    Dentro& operator=(const Dentro&) = delete;
-
-  private:
-    int& profundidad;
-};
-
-}  // namespace
-
 void Juego::Tirar_Dados() {
     if (Cerrando()) return;
     const Comprobada accion(*this);
     {
-        const Dentro dentro(profundidad);
+        const Mientras tira = vigencia.Tirar();
         Rodar();
         Jugar_Computadora();
     }
@@ -33,8 +17,8 @@ void Juego::Tirar_Dados() {
 }
 
 void Juego::Delay(Integer /*T*/) {
-    const Mientras ceden(computadora_actua, false);
-    if (computadora_juega && !sin_entrada && partida.Jugando != False) {
+    const Mientras cede = vigencia.Ceder();
+    if (Computadora_Juega() && !A_Medio_Tirar() && partida.Jugando != False) {
         puertos.Eventos.DoEventsPaced();
     } else {
         puertos.Eventos.DoEvents();
@@ -60,7 +44,7 @@ void Juego::Mostrar_Dado(Integer cual, Integer valor) {
 // The roll. A new game or the program's end interrupts it, and then it is nobody's turn to play.
 void Juego::Rodar() {
     const auto testigo = vigencia.Empezar_Otra();
-    if (partida.Jugando != False) sin_entrada = true;
+    if (partida.Jugando != False) vigencia.Cerrar_Entrada();
     partida.Turno = static_cast<Integer>(-partida.Turno);
     if (!Pasar_Eventos(testigo)) return;
 
@@ -76,21 +60,20 @@ void Juego::Rodar() {
     if (!Pasar_Eventos(testigo)) return;
 
     partida.Jugando = True;
-    sin_entrada = false;
+    vigencia.Abrir_Entrada();
     Efecto("click1.Wav");
 }
 
 bool Juego::Le_Toca_A_La_Computadora() const {
-    return computadora != nullptr && !Cerrando() && !peticion && partida.Jugando != False &&
-           partida.Turno == CAFE && partida.Nivel != DOS_PERSONAS;
+    return computadora != nullptr && !Cerrando() && !vigencia.Hay_Peticion() &&
+           partida.Jugando != False && partida.Turno == CAFE && partida.Nivel != DOS_PERSONAS;
 }
 
 // A turn that comes up while another still unwinds (a pass given in the computer's pause can lead
 // there) is taken up by the loop that is running: there is never more than one.
 void Juego::Jugar_Computadora() {
-    if (computadora_juega || !Le_Toca_A_La_Computadora()) return;
-    const Mientras juega(computadora_juega);
-    const Mientras actua(computadora_actua);
+    if (Computadora_Juega() || !Le_Toca_A_La_Computadora()) return;
+    const auto turno = vigencia.Jugar();
     Vigencia::Testigo testigo{};
     do {
         testigo = vigencia.Tomar();

@@ -12,7 +12,6 @@
 // changes nothing.
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "core/control.h"
@@ -111,20 +110,15 @@ class Juego {
 
     /// Whether a roll that no move preceded has begun and not ended: a die may still show what it
     /// showed before, so the position need not be valid.
-    bool A_Medio_Tirar() const { return sin_entrada; }
+    bool A_Medio_Tirar() const { return vigencia.A_Medio_Tirar(); }
 
     const Partida& Estado() const { return partida; }
     /// For the computer, which says where its chip comes from before each move.
     void Poner_Origen(Integer origen) { partida.Origen = origen; }
     /// Whether the computer's turn is running.
-    bool Computadora_Juega() const { return computadora_juega; }
+    bool Computadora_Juega() const { return vigencia.Computadora_Juega(); }
 
   private:
-    struct Peticion {
-        Byte nivel;
-        Volado* volado;
-    };
-
     // Images (imagenes.cpp): each change is told to the board.
     Image& Imagen(Control control);
     void Colocar(Control control, Single left, Single top);
@@ -137,7 +131,7 @@ class Juego {
     void Despejar();
     void Colocar_Fichas();
     void Atender_Peticiones();
-    void Abrir(const Peticion& peticion);
+    void Abrir(const Vigencia::Peticion& nueva);
 
     void Rodar();
     bool Pasar_Eventos(Vigencia::Testigo testigo);
@@ -186,12 +180,6 @@ class Juego {
     Oponente* const computadora;
 
     Vigencia vigencia;
-    int profundidad = 0;  // how many Tirar_Dados are running
-    bool computadora_juega = false;
-    bool computadora_actua = false;  // within its turn: what happens now is its own doing
-    bool sin_entrada = false;        // a roll that no move preceded: old dice may still be shown
-    bool atendiendo = false;
-    std::optional<Peticion> peticion;  // a new game asked for and not yet begun
 };
 
 }  // namespace corvanda

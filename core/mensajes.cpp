@@ -28,7 +28,7 @@ void Juego::Beeper() {
 }
 
 void Juego::Avisar(const std::string& texto, Integer estilo, const std::string& titulo) {
-    const Mientras ceden(computadora_actua, false);
+    const Mientras cede = vigencia.Ceder();
     if (!Cerrando()) puertos.Mensajes.MsgBox(texto, estilo, titulo);
 }
 
