@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPalette>
 #include <QPixmap>
+#include <algorithm>
 
 namespace corvanda {
 
@@ -11,6 +12,8 @@ namespace {
 constexpr QLatin1String scheme("help");
 constexpr double drawn_at = 2;  // as tools/laminas draws the pictures
 constexpr int margin = 14;
+constexpr int columns = 80;          // of text in a line that is still read easily
+constexpr int widest_picture = 560;  // logical pixels
 
 QUrl UrlOf(const QString& address) {
     QUrl url;
@@ -33,7 +36,8 @@ bool IsInside(const QUrl& url) {
 
 /// The pages have their own paper and ink: their colours were chosen together.
 QPalette Paper(QPalette palette) {
-    palette.setColor(QPalette::Base, QColor(0xfd, 0xfa, 0xf3));
+    for (const auto paper : {QPalette::Base, QPalette::Window})
+        palette.setColor(paper, QColor(0xfd, 0xfa, 0xf3));
     palette.setColor(QPalette::Text, QColor(0x2b, 0x20, 0x1a));
     palette.setColor(QPalette::Link, QColor(0x8c, 0x2b, 0x14));
     palette.setColor(QPalette::LinkVisited, QColor(0x8c, 0x2b, 0x14));
@@ -48,6 +52,8 @@ HelpBrowser::HelpBrowser(const HelpFile& help, QWidget* parent) : QTextBrowser(p
     setOpenLinks(false);
     setPalette(Paper(palette()));
     document()->setDocumentMargin(margin);
+    // Where a word does not fit, the page can be scrolled.
+    setWordWrapMode(QTextOption::WordWrap);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::Follow);
 }
 
@@ -67,6 +73,13 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     if (type != QTextDocument::ImageResource) return help.ReadText(inside);
     drawn.insert(name);
     return Picture(inside);
+}
+
+// In a wide window the page leaves room at its right instead of growing lines nobody can follow.
+void HelpBrowser::resizeEvent(QResizeEvent* event) {
+    const int page = std::max(columns * fontMetrics().averageCharWidth(), widest_picture);
+    setViewportMargins(0, 0, std::max(0, contentsRect().width() - page - 2 * margin), 0);
+    QTextBrowser::resizeEvent(event);
 }
 
 // The window may have come to another screen.

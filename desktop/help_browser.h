@@ -30,6 +30,7 @@ class HelpBrowser final : public QTextBrowser {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void Follow(const QUrl& link);

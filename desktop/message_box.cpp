@@ -4,8 +4,12 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QGridLayout>
+#include <QLabel>
+#include <QMainWindow>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStyle>
+#include <algorithm>
 #include <memory>
 
 namespace corvanda {
@@ -27,6 +31,30 @@ QMessageBox::Icon IconOf(Integer style) {
     }
 }
 
+constexpr int usual_columns = 60;  // of text beside and around an icon, as desktops' dialogs have
+constexpr int usual_lines = 5;
+
+// Stands in the middle of what the window under it shows, below that window's menus.
+class Box final : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void showEvent(QShowEvent* event) override {
+        QMessageBox::showEvent(event);
+        const auto* under = parentWidget() == nullptr
+                                ? nullptr
+                                : qobject_cast<QMainWindow*>(parentWidget()->window());
+        if (under == nullptr || under->centralWidget() == nullptr) return;
+        const QWidget& shown = *under->centralWidget();
+        const int title = under->geometry().top() - under->frameGeometry().top();
+        QRect place(QPoint(), size() + QSize(0, title));
+        place.moveCenter(shown.mapToGlobal(shown.rect().center()));
+        const QRect usable = screen()->availableGeometry();
+        move(std::max(place.left(), usable.left()), std::max(place.top(), usable.top()));
+    }
+};
+
 void AddButton(QMessageBox& box, QMessageBox::StandardButton which, const char* caption) {
     box.addButton(which);
     // The program speaks one language; without this the desktop would put in its own.
@@ -46,18 +74,27 @@ void AddButtons(QMessageBox& box, bool question) {
     }
 }
 
-// A box that is narrower than its title has it cut by the window's frame. How wide the frame draws
-// it only the desktop knows; most draw it bold, between an icon and up to three buttons.
-void WidenToTitle(QMessageBox& box) {
+// How wide the frame draws a title only the desktop knows; most draw it bold, between an icon and
+// up to three buttons.
+int TitleWidth(const QMessageBox& box) {
     QFont bold = box.font();
     bold.setBold(true);
     const int buttons = 5 * box.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    const int title = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + buttons;
+    return QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + buttons;
+}
+
+// A box that is narrower than its title has it cut by the window's frame, and one that is only as
+// large as a short text looks lost on a large board.
+void Enlarge(QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     if (grid == nullptr) return;
     const QMargins margins = grid->contentsMargins();
-    grid->addItem(new QSpacerItem(title - margins.left() - margins.right(), 0), grid->rowCount(), 0,
-                  1, grid->columnCount());
+    const int usual = usual_columns * box.fontMetrics().averageCharWidth();
+    const int width = std::max(TitleWidth(box), usual) - margins.left() - margins.right();
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    grid->setRowMinimumHeight(0, usual_lines * box.fontMetrics().lineSpacing());
+    if (auto* icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
+        grid->setAlignment(icon, Qt::AlignVCenter);
 }
 
 }  // namespace
@@ -80,7 +117,7 @@ Integer QtMessageBoxes::MsgBox(const std::string& text, Integer style, const std
     const QtMousePointer::Rest rest(pointer);
     // On the heap and watched: the window it stands over may be deleted, and the box with it, by a
     // handler that runs while it is open.
-    QPointer<QMessageBox> box(new QMessageBox(Owner()));
+    QPointer<QMessageBox> box(new Box(Owner()));
     box->setObjectName(QStringLiteral("MsgBox"));
     box->setWindowModality(Qt::ApplicationModal);
     box->setTextFormat(Qt::PlainText);
@@ -89,7 +126,7 @@ Integer QtMessageBoxes::MsgBox(const std::string& text, Integer style, const std
     box->setWindowTitle(QString::fromStdString(title));
     box->setText(QString::fromStdString(text));
     AddButtons(*box, question);
-    WidenToTitle(*box);
+    Enlarge(*box);
     const int pressed = box->exec();
     delete box.data();
     return pressed == QMessageBox::Yes ? button::Yes : otherwise;

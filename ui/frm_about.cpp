@@ -27,11 +27,14 @@ constexpr double ALTO = 9240;    // down to the lowest text
 constexpr double LETRA = 12;     // points
 constexpr double CORRIMIENTO = 30;  // twips between the two copies of a text
 
-constexpr const char* AVISO = "© 2026 The Corvanda authors\nauthors@corvanda.example";
+constexpr const char* AVISO =
+    "Corvanda " CORVANDA_VERSION " © 2026 The Corvanda authors\nauthors@corvanda.example";
 constexpr const char* DIRECCION = "https://corvanda.example";
 
 const QColor BLANCO(Qt::white);
-const QColor GRIS(0x90, 0x90, 0x90, 0x60);  // lets the white copy under it be read
+const QColor GRIS(0x60, 0x60, 0x60);
+constexpr double ALTO_DE_TEXTO = 600;  // twips
+constexpr int RENGLONES = 2;
 
 // A picture from a file that fills its place, crisp on whatever screen it is shown. It is drawn in
 // the background, because on a large screen that takes longer than the film may wait for.
@@ -119,20 +122,26 @@ void FrmAbout::Poner_Imagenes(const QString& imagenes) {
     Image2->setAccessibleName("Picture of a board");
 }
 
-// Of each pair the copy that is made last lies over the other.
+// Of each pair the grey copy, which is made last, lies over the white one and is its shadow.
 void FrmAbout::Poner_Textos() {
     Label5 = Poner_Texto("Label5", AVISO, BLANCO);
     Label1 = Poner_Texto("Label1", AVISO, GRIS);
     lblDisp1 = Poner_Texto("lblDisp1", DIRECCION, BLANCO);
     lblDisp2 = Poner_Texto("lblDisp2", DIRECCION, GRIS);
+    Label1->Sombrear(Label5);
+    lblDisp2->Sombrear(lblDisp1);
     for (QLabel* etiqueta : {lblDisp1, lblDisp2}) etiqueta->hide();
 }
 
-QLabel* FrmAbout::Poner_Texto(const char* nombre, const char* texto, const QColor& color) {
+Letrero* FrmAbout::Poner_Texto(const char* nombre, const char* texto, const QColor& color) {
     QFont letra = escala.Letra(LETRA, true);
     letra.setFamilies({"Times New Roman", "Liberation Serif", "DejaVu Serif"});
     letra.setStyleHint(QFont::Serif);
-    QLabel* etiqueta = dialogos::Texto(*this, nombre, QString::fromUtf8(texto), {}, escala, letra);
+    // A font with lines further apart than the first of these would have its second one cut.
+    while (letra.pixelSize() > 1 &&
+           RENGLONES * QFontMetricsF(letra).lineSpacing() > escala.Pixeles(ALTO_DE_TEXTO))
+        letra.setPixelSize(letra.pixelSize() - 1);
+    Letrero* etiqueta = dialogos::Texto(*this, nombre, QString::fromUtf8(texto), {}, escala, letra);
     etiqueta->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     dialogos::Colorear(*etiqueta, color);
     return etiqueta;
@@ -147,10 +156,10 @@ void FrmAbout::Centrar(int ancho) {
     poner(Image1, -120, 2685, 2385);
     poner(Picture1, 2400, 3000, 2250);
     poner(Image2, 4710, 6555, 2700);
-    poner(Label1, 7690, 7335, 600);
-    poner(Label5, 7740, 7335, 600, CORRIMIENTO);
-    poner(lblDisp1, 8640, 7335, 600);
-    poner(lblDisp2, 8610, 7335, 600, CORRIMIENTO);
+    poner(Label1, 7690, 7335, ALTO_DE_TEXTO);
+    poner(Label5, 7740, 7335, ALTO_DE_TEXTO, CORRIMIENTO);
+    poner(lblDisp1, 8640, 7335, ALTO_DE_TEXTO);
+    poner(lblDisp2, 8610, 7335, ALTO_DE_TEXTO, CORRIMIENTO);
 }
 
 void FrmAbout::Form_Load() {

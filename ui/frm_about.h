@@ -7,13 +7,13 @@
 #pragma once
 
 #include <QDialog>
-#include <QLabel>
 #include <QTimer>
 #include <functional>
 #include <string>
 
 #include "runtime/ports.h"
 #include "ui/escala.h"
+#include "ui/letrero.h"
 
 namespace corvanda {
 
@@ -56,7 +56,7 @@ class FrmAbout final : public QDialog {
   private:
     void Poner_Imagenes(const QString& imagenes);
     void Poner_Textos();
-    QLabel* Poner_Texto(const char* nombre, const char* texto, const QColor& color);
+    Letrero* Poner_Texto(const char* nombre, const char* texto, const QColor& color);
     void Centrar(int ancho);
     bool Recibe_Clics(QPoint punto) const;
     void Form_Load();
@@ -76,10 +76,10 @@ class FrmAbout final : public QDialog {
     QWidget* Image1 = nullptr;
     QWidget* Picture1 = nullptr;
     QWidget* Image2 = nullptr;
-    QLabel* Label1 = nullptr;
-    QLabel* Label5 = nullptr;
-    QLabel* lblDisp1 = nullptr;
-    QLabel* lblDisp2 = nullptr;
+    Letrero* Label1 = nullptr;
+    Letrero* Label5 = nullptr;
+    Letrero* lblDisp1 = nullptr;
+    Letrero* lblDisp2 = nullptr;
     QTimer Timer1{this};
 
     std::string Archivo;

@@ -90,5 +90,21 @@ TEST(Programa, starts_and_ends_whatever_has_become_of_its_files) {
     }
 }
 
+TEST(Programa, answers_on_the_terminal_what_it_is_without_a_display) {
+    QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+    for (const char* pantalla : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        entorno.remove(pantalla);
+    for (const auto& [pregunta, respuesta] :
+         {std::pair("--version", "corvanda 0."), {"--help", "Usage: corvanda"}}) {
+        QProcess proceso;
+        proceso.setProcessEnvironment(entorno);
+        proceso.start(QCoreApplication::applicationDirPath() + "/corvanda", {pregunta});
+        ASSERT_TRUE(proceso.waitForFinished(PACIENCIA));
+        EXPECT_EQ(proceso.exitCode(), 0);
+        EXPECT_TRUE(proceso.readAllStandardOutput().startsWith(respuesta)) << pregunta;
+        EXPECT_EQ(proceso.readAllStandardError(), "");
+    }
+}
+
 }  // namespace
 }  // namespace corvanda::pruebas

@@ -174,6 +174,16 @@ TEST_F(HelpTest, every_entry_of_the_contents_can_be_read_whatever_the_font) {
     QApplication::setFont(usual);
 }
 
+TEST_F(HelpTest, lines_grow_no_longer_than_can_be_read_and_words_stay_whole) {
+    Ask(help::Context, 0);
+    for (const auto& [window, most] : {std::pair(QSize(2000, 700), 900), {QSize(400, 700), 400}}) {
+        Window().resize(window);
+        QCoreApplication::processEvents();
+        EXPECT_LE(Page()->viewport()->width(), most);
+        EXPECT_EQ(Page()->wordWrapMode(), QTextOption::WordWrap);
+    }
+}
+
 TEST_F(HelpTest, pictures_are_drawn_for_the_screen_they_are_on) {
     Ask(help::Context, 0);
     const auto ratio = [] {

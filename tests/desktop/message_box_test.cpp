@@ -3,6 +3,8 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QMessageBox>
 
 #include "tests/desktop/desk.h"
@@ -76,12 +78,19 @@ TEST_F(MessageBoxTest, shows_and_answers_each_style_as_it_was_asked) {
 }
 
 TEST_F(MessageBoxTest, stands_over_the_window_in_front_and_outlives_it) {
-    auto main_window = std::make_unique<QWidget>();
+    auto main_window = std::make_unique<QMainWindow>();
+    main_window->menuBar()->addMenu("Game");
+    main_window->setCentralWidget(new QWidget);
+    main_window->resize(700, 500);
     boxes.SetMainWindow(main_window.get());
     main_window->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(main_window.get()));
     WhenOpen([&](QMessageBox& box) {
         EXPECT_EQ(box.parentWidget(), main_window.get());
+        const QWidget& shown = *main_window->centralWidget();
+        const QPoint off = box.frameGeometry().center() - shown.mapToGlobal(shown.rect().center());
+        EXPECT_LE(off.manhattanLength(), 5) << "in the middle of what the window shows";
+        EXPECT_GE(box.width(), 40 * box.fontMetrics().averageCharWidth());
         main_window.reset();
     });
     EXPECT_EQ(boxes.MsgBox("text", style::QuestionYesNo, "title"), button::No);
