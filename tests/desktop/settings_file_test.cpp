@@ -1,13 +1,45 @@
 // The settings on the disk: whole or as before, whatever happens.
 #include "desktop/settings_file.h"
 
+#include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #include <memory>
 
 #include "desktop/folder_lock.h"
 #include "tests/desktop/desk.h"
+
+namespace corvanda::pruebas {
+namespace {
+
+/// What a test does between the program and the kernel, each once.
+struct {
+    std::function<int(int file)> at_fsync;    ///< the error to report, 0 for none
+    std::function<void()> at_a_refused_lock;  ///< after that the program may ask again
+} meanwhile;
+
+}  // namespace
+}  // namespace corvanda::pruebas
+
+// The program's own, in front of the C library's.
+extern "C" int fsync(int file) {
+    const auto asked = std::exchange(corvanda::pruebas::meanwhile.at_fsync, nullptr);
+    errno = asked ? asked(file) : 0;
+    return errno == 0 ? static_cast<int>(syscall(SYS_fsync, file)) : -1;
+}
+
+extern "C" int flock(int file, int operation) noexcept {
+    if (syscall(SYS_flock, file, operation) == 0) return 0;
+    const int why = errno;
+    if (const auto asked = std::exchange(corvanda::pruebas::meanwhile.at_a_refused_lock, nullptr))
+        asked();
+    errno = why;
+    return -1;
+}
 
 namespace corvanda::pruebas {
 namespace {
@@ -130,6 +162,60 @@ TEST_F(SettingsFileTest, another_program_counts_while_it_lives_and_its_remains_a
     EXPECT_EQ(QDir(folder.filePath("corvanda")).entryList(QDir::Files),
               (QStringList{"settings.json", "settings.json.lock", "settings.json.mine",
                            "settings.json.mine42"}));
+}
+
+TEST_F(SettingsFileTest, what_another_copy_writes_while_this_one_waits_is_kept) {
+    ExpectToStore("a file of this copy's");
+    auto other = std::make_unique<FolderLock>(folder.filePath("corvanda"), 0ms);
+    meanwhile.at_a_refused_lock = [&] {
+        WriteBytes(file, R"({"other": {"Config": {"Sonido": "7"}}})");
+        other.reset();
+    };
+    SettingsFile mine(file);
+    EXPECT_EQ(mine.GetSetting(app, "Config", "Sonido", ""), "0") << "read before the other writes";
+    mine.SaveSetting(app, "Config", "Nivel", "1");
+    EXPECT_EQ(mine.Commit(), "");
+    EXPECT_EQ(other, nullptr) << "written beside a locked folder";
+    EXPECT_EQ(Stored("other"), "7");
+    EXPECT_EQ(SettingsFile(file).GetSetting(app, "Config", "Nivel", ""), "1");
+}
+
+TEST_F(SettingsFileTest, the_new_file_is_on_the_disk_before_it_takes_the_old_ones_place) {
+    const struct {
+        int error;
+        std::string told;
+    } table[] = {{0, ""},
+                 {EINVAL, ""},  // a file system that knows no such call is believed
+                 {ENOSPC, Failure("there is no room left on the disk")},
+                 {EIO, Failure("the file cannot be written")}};
+    for (const auto& [error, told] : table) {
+        ExpectToStore("the old file");
+        const QByteArray old = ReadBytes(file);
+        QByteArray written;
+        meanwhile.at_fsync = [&, error = error](int descriptor) {
+            written = ReadBytes(QStringLiteral("/proc/self/fd/%1").arg(descriptor));
+            EXPECT_EQ(ReadBytes(file), old);
+            return error;
+        };
+        EXPECT_EQ(Store("-1"), told) << error;
+        EXPECT_FALSE(meanwhile.at_fsync) << error;
+        EXPECT_TRUE(written.contains("-1") && written.endsWith("}\n")) << written.constData();
+        EXPECT_EQ(ReadBytes(file), told.empty() ? written : old) << error;
+    }
+}
+
+TEST_F(SettingsFileTest, a_link_stays_a_link_to_the_file_that_is_written) {
+    for (const bool dangling : {false, true}) {
+        const QString kept = folder.filePath("dotfiles/corvanda.json");
+        WriteBytes(file, "");
+        WriteBytes(kept, "{}");
+        QFile::remove(file);
+        ASSERT_TRUE(QFile::link("../dotfiles/corvanda.json", file));
+        if (dangling) QFile::remove(kept);
+        ExpectToStore(dangling ? "a link to nothing yet" : "a link");
+        EXPECT_TRUE(QFileInfo(file).isSymLink());
+        EXPECT_TRUE(QFileInfo(kept).isFile() && ReadBytes(kept).contains("Sonido"));
+    }
 }
 
 }  // namespace
