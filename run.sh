@@ -9,7 +9,7 @@ cd "$(dirname "$(readlink -f "$0")")" || exit 1
 . tools/construir.sh
 
 grupos=(build run) programas=(corvanda)
-hay_pantalla || { grupos+=(test) programas+=(demostracion); }
+hay_pantalla || { grupos+=(screen) programas+=(demostracion); }
 
 bash tools/instalar.sh "${grupos[@]}" || exit 1
 if [ ! -f build/release/bin/corvanda ]; then

@@ -8,7 +8,7 @@
 # mapped window (median of nine), and memory, processor time and wake-ups at rest over ten seconds.
 set -u
 cd "$(dirname "$0")/.." || exit 2
-tools/instalar.sh build run test || exit 1
+tools/instalar.sh build run screen hand || exit 1
 . tools/pantalla.sh
 . tools/construir.sh
 configurado release bench_nucleo bench_pausa bench_ventana corvanda || configurar release || exit 1

@@ -5,8 +5,7 @@
 #                                   all; it is closed again when the script ends
 #     atender || exit 1             what a screen reader does to be served
 #
-# Needs, beside what the tests need, at-spi2-core, python3-gi and gir1.2-atspi-2.0; it is not a part of
-# the tests.
+# It is not a part of the tests.
 . tools/pantalla.sh
 juego=
 

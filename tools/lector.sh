@@ -4,10 +4,10 @@
 #
 #     tools/lector.sh [PROGRAM]
 #
-# Needs what tools/accesible.sh names.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 programa=$(realpath "${1:-build/release/bin/corvanda}") || exit 1
+bash tools/instalar.sh run screen hand bus || exit 1
 . tools/accesible.sh
 abrir_todo "$programa" && atender || exit 1
 

@@ -1,4 +1,4 @@
-# A screen of our own, for run.sh and test.sh where there is none; to be sourced.
+# A screen of our own, for run.sh where there is none and for what measures or listens; to be sourced.
 #
 #     abrir_pantalla || exit 1      starts Xvfb and openbox, sets DISPLAY
 #     cerrar_pantalla               ends both; for the caller's EXIT trap

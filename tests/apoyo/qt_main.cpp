@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFont>
 #include <QTemporaryDir>
+#include <csignal>
 
 namespace {
 
@@ -43,6 +44,7 @@ void TwoScreens(const QString& configuration) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    std::signal(SIGHUP, SIG_DFL);  // nohup ignores it, and so would the program
     testing::InitGoogleTest(&argc, argv);
     const QTemporaryDir config;
     qputenv("XDG_CONFIG_HOME", config.path().toLocal8Bit());
