@@ -12,9 +12,9 @@ namespace {
 constexpr int CELDA = 16;  // pixels: as finely as it is told where pictures differ
 
 // Shapes are compared in areas of 9 x 9 pixels, each laid over the other picture where it fits
-// best. Measured on the smallest numbers of the board (12 pixels, bold), the root of the mean
-// square is at most 33 when only the hinting, the smoothing and a part of a pixel differ, and at
-// least 42 between any two numbers (8 and 6). Large areas also have the same mean colour.
+// best. The smallest numbers of the board (12 pixels, bold) set the limit: the root of the mean
+// square is 29.5 or more between any two of them (8 and 6). Large areas also have the same mean
+// colour.
 constexpr int RADIO_DE_FORMA = 4;
 constexpr int FORMA_TOLERADA = 28;
 constexpr int MEDIOS_PIXELES = 2;  // an area may be so many halves of a pixel aside

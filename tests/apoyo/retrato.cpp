@@ -50,8 +50,10 @@ void Retratar(const QString& archivo, const QImage& imagen) {
     }
     const QString resto = QString(CORVANDA_RETRATOS) + nombre;
     Guardar(imagen, resto + ".new.png");
-    if (!antes.isNull()) Guardar(antes, resto + ".approved.png");
-    Guardar(diferencia.vista, resto + ".difference.png");
+    if (!antes.isNull()) {
+        Guardar(antes, resto + ".approved.png");
+        Guardar(diferencia.vista, resto + ".difference.png");
+    }
     ADD_FAILURE() << archivo.toStdString() << ".png is not what is drawn now; they differ in"
                   << Donde(diferencia.areas) << "\nLook at " << resto.toStdString()
                   << ".{new,approved,difference}.png\nand, when the new one is right, run "

@@ -46,18 +46,17 @@ class MessageBoxTest : public testing::Test {
 TEST_F(MessageBoxTest, shows_and_answers_each_style_as_it_was_asked) {
     const struct {
         Integer style;
-        QMessageBox::Icon icon;
         const char *captions, *what;
         Integer result;
     } table[] = {
-        {style::Critical, QMessageBox::Critical, "OK", "OK", button::Ok},
-        {style::Exclamation, QMessageBox::Warning, "OK", "Enter", button::Ok},
-        {style::Information, QMessageBox::Information, "OK", "Esc", button::Ok},
-        {4711, QMessageBox::NoIcon, "OK", "OK", button::Ok},
-        {style::QuestionYesNo, QMessageBox::Question, "&No &Yes", "&Yes", 6},
-        {style::QuestionYesNo, QMessageBox::Question, "&No &Yes", "Enter", 6},
-        {style::QuestionYesNo, QMessageBox::Question, "&No &Yes", "&No", 7},
-        {style::QuestionYesNo, QMessageBox::Question, "&No &Yes", "Esc", 7},
+        {style::Critical, "OK", "OK", button::Ok},
+        {style::Exclamation, "OK", "Enter", button::Ok},
+        {style::Information, "OK", "Esc", button::Ok},
+        {4711, "OK", "OK", button::Ok},
+        {style::QuestionYesNo, "&No &Yes", "&Yes", 6},
+        {style::QuestionYesNo, "&No &Yes", "Enter", 6},
+        {style::QuestionYesNo, "&No &Yes", "&No", 7},
+        {style::QuestionYesNo, "&No &Yes", "Esc", 7},
     };
     const std::string text = "¿ <b>Are</b> you & I sure ?\nReally &sure";
     for (const auto& row : table) {
@@ -66,7 +65,6 @@ TEST_F(MessageBoxTest, shows_and_answers_each_style_as_it_was_asked) {
             for (const QAbstractButton* each : box.buttons()) captions += each->text();
             captions.sort();
             EXPECT_EQ(captions.join(' '), row.captions);
-            EXPECT_EQ(box.icon(), row.icon);
             EXPECT_EQ(box.windowTitle(), "¿ Exit ?");
             const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
             EXPECT_EQ(label->text().toStdString(), text);

@@ -3,9 +3,12 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QScreen>
+#include <QStyleOption>
 #include <QThreadPool>
 
+#include "app/aplicacion.h"
 #include "desktop/help_viewer.h"
 #include "desktop/help_window.h"
 #include "fuentes.h"
@@ -26,16 +29,18 @@ void Retratar_Aqui(const char* nombre, const QImage& imagen) {
     Retratar(QString("tests/retratos/") + nombre, menos.convertToFormat(QImage::Format_RGB32));
 }
 
+/// The board as it stands on the screen, which is not all painted anew.
 void Retratar_Tablero(const char* nombre, Ventana& v) {
     QCoreApplication::processEvents();
-    QWidget& fondo = *v.frm.centralWidget();
-    Retratar_Aqui(nombre, fondo.grab(v.frm.Tablero().geometry()).toImage());
+    const Estuche& tablero = v.frm.Tablero();
+    const QRect lugar(tablero.mapTo(&v.frm, QPoint()), tablero.size());
+    const QPixmap ventana = v.frm.screen()->grabWindow(v.frm.winId());
+    Retratar_Aqui(nombre, ventana.copy(lugar).toImage());
 }
 
 TEST(Retratos, the_board) {
     constexpr std::pair<const char*, const char*> tabla[] = {
         {"board_start", "dice 3 1"},
-        {"board_stacks", "B 2x7 18x8 | C 12x6 21x9 | turn C | dice 0 4"},
         {"board_bars", "B 11x5 16x4 18x4 bar2 | C 1x5 5x5 12x2 bar3 | dice 6 5"},
         {"board_trays", "B 23x2 22x3 21x1 | C 0x3 1x1 | turn C | dice 2 5"},
         {"board_doubles", "B 0x2 16x5 18x8 | C 12x6 7x7 23x2 | dice 4 4"},
@@ -45,6 +50,30 @@ TEST(Retratos, the_board) {
         v.Poner(posicion);
         Retratar_Tablero(nombre, v);
     }
+}
+
+TEST(Retratos, tall_stacks_before_and_after_a_move) {
+    Ventana v;
+    v.Poner("B 2x7 16x8 | C 12x6 21x9 | turn C | dice 0 4");
+    Retratar_Tablero("board_stacks", v);
+    v.Poner("B 2x7 16x8 | C 12x6 21x9 | turn C | dice 3 3");
+    v.raton.Arrastrar(v.Centro({Arreglo::Cafe, 14}), v.Base(18));
+    v.raton.Arrastrar(v.Centro({Arreglo::Cafe, 5}), v.Base(9));
+    v.raton.Ir({6, 6});
+    Retratar_Tablero("board_moved", v);
+}
+
+TEST(Retratos, the_board_without_its_pictures) {
+    Estampas estampas("/nonexistent");
+    Ventana v;
+    v.Poner("B 11x5 18x6 | C 0x3 5x2 23x2 | dice 6 5");
+    const Pintura::Velada nada;
+    Estuche& tablero = v.frm.Tablero();
+    Pintura pintura(v.partida, Escala(), estampas, tablero);
+    QImage hoja(tablero.size(), QImage::Format_RGB32);
+    QPainter pintor(&hoja);
+    pintura.Pintar(pintor, tablero.rect(), nada);
+    Retratar_Aqui("board_plain", hoja);
 }
 
 TEST(Retratos, a_chip_in_the_hand_and_what_a_refusal_leaves) {
@@ -115,19 +144,54 @@ TEST_F(Dialogos, the_speed_dialog_before_and_after_its_slide) {
     Retratar("ayuda/imagenes/speed", laminas::Enmarcada(Velocidad(2)));
 }
 
-TEST_F(Dialogos, the_start_up_screen_with_and_without_the_address) {
-    struct Cine final : MediaControl {
-        long mciSendString(const std::string& /*command*/, std::string& reply) override {
-            reply.clear();
-            return 0;
-        }
-    } cine;
-    Integer veces = 0;
-    FrmAbout acerca(nullptr, veces, {cine, escritorio, escritorio}, escala, Carpeta_De_Imagenes(),
-                    [] {});
-    Retratar_Aqui("about", Abierta(acerca));
-    acerca.Mostrar_Direccion();
-    Retratar_Aqui("about_address", Abierta(acerca));
+/// A desktop's style that draws its buttons in its own colours.
+struct Estilo_Oscuro final : QProxyStyle {
+    Estilo_Oscuro() : QProxyStyle("Fusion") {}
+    void drawControl(ControlElement parte, const QStyleOption* opcion, QPainter* pintor,
+                     const QWidget* control) const override {
+        if (parte == CE_PushButtonBevel) return pintor->fillRect(opcion->rect, QColor(0x303030));
+        QProxyStyle::drawControl(parte, opcion, pintor, control);
+    }
+};
+
+TEST_F(Dialogos, look_the_same_whatever_the_desktop_looks_like) {
+    const QPalette antes = QApplication::palette();
+    const QPalette negra(Qt::white, Qt::black, Qt::white, Qt::white, Qt::white, Qt::white,
+                         Qt::black);
+    modulo.Velocidad = 100;
+    for (const bool propio : {false, true}) {
+        if (propio) QApplication::setStyle(new Estilo_Oscuro);
+        QApplication::setPalette(propio ? QPalette(QColor(0x353535)) : negra);
+        Retratar_Aqui("start_white", Sorteo({6, 3}));
+        Retratar_Aqui("speed_after", Velocidad());
+    }
+    QApplication::setStyle("Fusion");
+    QApplication::setPalette(antes);
+}
+
+/// The start-up screen without its film, which may show any of its frames.
+QImage Sin_Pelicula(QWidget& acerca) {
+    QImage vista = Abierta(acerca);
+    QPainter(&vista).fillRect(acerca.findChild<QWidget*>("Picture1")->geometry(), Qt::gray);
+    return vista;
+}
+
+TEST(Retratos, the_start_up_screen_and_with_the_address_what_the_menu_shows) {
+    Random azar(1);
+    Aplicacion programa(azar);
+    programa.Empezar();
+    for (QWidget* ventana : QApplication::topLevelWidgets()) {
+        if (qobject_cast<FrmAbout*>(ventana) == nullptr) continue;
+        Retratar_Aqui("about", Sin_Pelicula(*ventana));
+        ventana->close();
+    }
+    Vigilante vigilante;
+    vigilante.Esperar([](QWidget& acerca) {
+        Retratar_Aqui("about_address", Sin_Pelicula(acerca));
+        acerca.close();
+    });
+    programa.Ventana().mnuAcerca_Click();
+    EXPECT_TRUE(vigilante.Gastado());
 }
 
 TEST(Retratos, the_help_window) {
@@ -151,6 +215,7 @@ TEST(Retratos, the_help_window) {
 
 TEST(Retratos, the_message_boxes) {
     const std::tuple<const char*, const char*, Integer> tabla[] = {
+        {"box_critical", "You can't do that move", style::Critical},
         {"box_information", "You have to play the  6", style::Information},
         {"box_exclamation", "The player with White Chips Won", style::Exclamation},
         {"box_question", "¿ Are you sure you want to quit ?", style::QuestionYesNo},

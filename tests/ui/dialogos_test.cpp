@@ -1,20 +1,11 @@
 // The start-player dialog and the speed dialog, opened from the main window.
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QStyleOption>
-#include <algorithm>
-#include <cmath>
-#include <map>
 
 #include "tests/apoyo/sin_nombre.h"
 #include "tests/ui/ventana.h"
-#include "ui/form1.h"
-#include "ui/frm_volado.h"
 
 namespace corvanda::pruebas {
 namespace {
@@ -153,85 +144,6 @@ TEST(Velocidad, nothing_can_be_decided_before_the_chip_has_crossed_and_only_ok_c
         v.Entrada("mnuVel")->trigger();
         EXPECT_EQ(v.partida.Velocidad, fila.despues);
     }
-}
-
-/// A desktop's style that draws its buttons in its own colours.
-struct Estilo_Oscuro final : QProxyStyle {
-    Estilo_Oscuro() : QProxyStyle("Fusion") {}
-    void drawControl(ControlElement parte, const QStyleOption* opcion, QPainter* pintor,
-                     const QWidget* control) const override {
-        if (parte == CE_PushButtonBevel) return pintor->fillRect(opcion->rect, QColor(0x303030));
-        QProxyStyle::drawControl(parte, opcion, pintor, control);
-    }
-};
-
-double Luminancia(QRgb color) {
-    const auto lineal = [](int valor) {
-        const double v = valor / 255.0;
-        return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-    };
-    return 0.05 + 0.2126 * lineal(qRed(color)) + 0.7152 * lineal(qGreen(color)) +
-           0.0722 * lineal(qBlue(color));
-}
-
-/// How a control's letters stand out against what is most often drawn right beside them; 0 where
-/// none are seen.
-double Contraste(QWidget& control) {
-    const QRgb letras = control.palette().color(control.foregroundRole()).rgb();
-    const QImage vista = control.window()->grab(control.geometry()).toImage();
-    std::map<QRgb, int> alrededor;
-    for (int y = 3; y < vista.height() - 3; ++y)
-        for (int x = 3; x < vista.width() - 3; ++x)
-            if ((vista.pixel(x, y) | 0xff000000) == letras)
-                for (const int paso : {-3, 3}) ++alrededor[vista.pixel(x + paso, y) | 0xff000000];
-    alrededor.erase(letras);
-    if (alrededor.empty()) return 0;
-    const QRgb fondo = std::max_element(alrededor.begin(), alrededor.end(), [](auto& a, auto& b) {
-                           return a.second < b.second;
-                       })->first;
-    const double clara = Luminancia(letras), oscura = Luminancia(fondo);
-    return std::max(clara, oscura) / std::min(clara, oscura);
-}
-
-TEST(Dialogos, every_text_and_button_can_be_read_whatever_the_desktop_looks_like) {
-    const QPalette negro_en_blanco(Qt::black, Qt::white, Qt::white, Qt::black, Qt::black, Qt::black,
-                                   Qt::black, Qt::white, Qt::white);
-    const QPalette blanco_en_negro(Qt::white, Qt::black, Qt::black, Qt::white, Qt::white, Qt::white,
-                                   Qt::white, Qt::black, Qt::black);
-    const QPalette oscura(QColor(0x353535));
-    const struct {
-        const char* nombre;
-        QPalette paleta;
-        bool propio;
-    } tabla[] = {
-        {"light", QApplication::palette(), false},       {"dark", oscura, false},
-        {"black on white", negro_en_blanco, false},      {"white on black", blanco_en_negro, false},
-        {"dark buttons", QApplication::palette(), true}, {"all dark", oscura, true}};
-    const QString antes = QApplication::style()->name();
-    for (const auto& fila : tabla) {
-        SCOPED_TRACE(fila.nombre);
-        if (fila.propio) QApplication::setStyle(new Estilo_Oscuro);
-        QApplication::setPalette(fila.paleta);
-        Ventana v(Ventana::Cajas::Diario, nullptr, Escala::Que_Quepan({10215, 6495}, {2000, 1300}));
-        v.escritorio.Azares({0.8, 0.2});
-        FrmVolado volado(nullptr, v.partida, v.escritorio, v.frm.Medida(), v.estampas, [] {});
-        for (int i = 0; i < 2; ++i) volado.Btn_Click();
-        Form1 velocidad(nullptr, v.partida, v.frm.Medida(), v.estampas);
-        for (const bool listo : {false, true}) {
-            const auto legible = [&](QWidget& dialogo, const char* nombre) {
-                auto& control = Hallar<QWidget>(dialogo, nombre);
-                if (qobject_cast<QPushButton*>(&control) != nullptr) control.setEnabled(listo);
-                EXPECT_GE(Contraste(control), 4.5) << nombre << listo;
-            };
-            for (const auto* nombre : {"Label1", "Label2", "Label3", "Btn"})
-                legible(volado, nombre);
-            for (const auto* nombre :
-                 {"Label1", "Label2", "Label3", "TxtVel", "BtnAceptar", "BtnCancelar"})
-                legible(velocidad, nombre);
-        }
-    }
-    QApplication::setStyle(antes);
-    QApplication::setPalette(tabla[0].paleta);
 }
 
 }  // namespace

@@ -11,52 +11,6 @@
 namespace corvanda::pruebas {
 namespace {
 
-/// The tree in lines: depth, name, caption, shortcut, "off", "mark" and "checked".
-void Escribir(const QWidget& menu, const std::string& sangria, std::string& lineas) {
-    for (const QAction* entrada : menu.actions()) {
-        const std::string atajo = entrada->shortcut().toString().toStdString();
-        std::string linea = sangria + entrada->objectName().toStdString() + " ";
-        linea += entrada->isSeparator() ? "-" : "[" + entrada->text().toStdString() + "]";
-        linea += (atajo.empty() ? "" : " ") + atajo + (entrada->isEnabled() ? "" : " off");
-        if (entrada->isCheckable()) linea += entrada->isChecked() ? " checked" : " mark";
-        lineas += linea + '\n';
-        if (entrada->menu() != nullptr) Escribir(*entrada->menu(), sangria + "  ", lineas);
-    }
-}
-
-TEST(Menus, the_tree_is_as_designed_and_no_game_changes_it) {
-    const std::string esperado =
-        "mnuGame [&Game]\n"
-        "  mnuNew [vs. &Player] Ctrl+J\n"
-        "  osd -\n"
-        "  mnuVs [&vs. Computer] Ctrl+C\n"
-        "mnuOpciones [&Options]\n"
-        "  mnuPasar [&Pass] F9\n"
-        "  ojren -\n"
-        "  mnuLevel [Level]\n"
-        "    mnuLev0 [&Beginner] checked\n"
-        "    mnuLev1 -\n"
-        "    mnuLev2 [&Advanced] mark\n"
-        "  eosrkg -\n"
-        "  mnuSonido [&Sound] checked\n"
-        "  dfsd -\n"
-        "  mnuVel [Speed...]\n"
-        "mnuAyuda [&Help]\n"
-        "  mnuCont [&Contents        F1]\n"
-        "  mnuIndice [&Index]\n"
-        "  wefw -\n"
-        "  mnuAcerca [About...]\n"
-        "mnuSalir [E&xit]\n";
-    Ventana v;
-    for (const char* posicion : {"dice 5 4", "B 23x1 | C 0x1 | dice 6 5"}) {
-        v.Poner(posicion);
-        v.partida.Jugando = False;
-        std::string lineas;
-        Escribir(*v.frm.menuBar(), "", lineas);
-        EXPECT_EQ(lineas, esperado) << posicion;
-    }
-}
-
 /// The captions of a menu and of all below it, as a text names them: "Options > Level".
 void Juntar(const QWidget& menu, const QString& camino, QStringList& titulos) {
     for (const QAction* entrada : menu.actions()) {

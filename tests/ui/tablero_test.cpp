@@ -1,4 +1,4 @@
-// Where the board lies, what a change repaints, and pictures that are missing.
+// Where the board lies, and what a change repaints.
 #include <QApplication>
 #include <QPaintEvent>
 #include <cmath>
@@ -123,11 +123,6 @@ TEST(Pintado_Del_Tablero, a_change_repaints_what_it_touched_and_rest_repaints_no
     pintado.region = {};
     QTest::qWait(100);
     EXPECT_TRUE(pintado.region.isEmpty());
-}
-
-TEST(Imagenes, plain_shapes_take_the_place_of_files_that_are_missing) {
-    const QImage ficha = Estampas("/nonexistent").De(Picture::Blanca, {35, 35}, 1).toImage();
-    EXPECT_GT(qAlpha(ficha.pixel(17, 17)), 200);
 }
 
 }  // namespace
