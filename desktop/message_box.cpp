@@ -89,10 +89,13 @@ void Enlarge(QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     if (grid == nullptr) return;
     const QMargins margins = grid->contentsMargins();
-    const int usual = usual_columns * box.fontMetrics().averageCharWidth();
+    // Large fonts make a box large by themselves.
+    const QSize most = box.screen()->availableSize() / 3;
+    const int usual = std::min(usual_columns * box.fontMetrics().averageCharWidth(), most.width());
     const int width = std::max(TitleWidth(box), usual) - margins.left() - margins.right();
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
-    grid->setRowMinimumHeight(0, usual_lines * box.fontMetrics().lineSpacing());
+    grid->setRowMinimumHeight(
+        0, std::min(usual_lines * box.fontMetrics().lineSpacing(), most.height() / 2));
     if (auto* icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
         grid->setAlignment(icon, Qt::AlignVCenter);
 }

@@ -1,5 +1,6 @@
 #include "ui/dialogos.h"
 
+#include <QMainWindow>
 #include <QPalette>
 
 #include "ui/estilo.h"
@@ -13,10 +14,22 @@ constexpr double LETRA = 8.25;  // points, as the layout was drawn for
 const QColor GRIS_CLARO(0xdd, 0xda, 0xd4);
 const QColor GRIS_OSCURO(0x54, 0x54, 0x54);
 
+// In the middle of the board, as far as it and the frame are known.
+void Centrar(QDialog& dialogo) {
+    const auto* ventana = qobject_cast<const QMainWindow*>(dialogo.parentWidget());
+    if (ventana == nullptr || ventana->centralWidget() == nullptr) return;
+    const QWidget& fondo = *ventana->centralWidget();
+    const int titulo = ventana->geometry().top() - ventana->frameGeometry().top();
+    QRect lugar({}, dialogo.size() + QSize(0, titulo));
+    lugar.moveCenter(fondo.mapToGlobal(fondo.rect().center()));
+    dialogo.move(lugar.topLeft());
+}
+
 }  // namespace
 
 void Preparar(QDialog& dialogo, Escala escala, double ancho, double alto) {
     dialogo.setFixedSize(escala.Tamano(ancho, alto));
+    Centrar(dialogo);
     dialogo.setFont(escala.Letra(LETRA));
     QPalette colores(GRIS_CLARO, GRIS_CLARO);
     colores.setColor(QPalette::Highlight, QColor(0x6b, 0x1f, 0x14));

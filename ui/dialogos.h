@@ -10,7 +10,8 @@
 
 namespace corvanda::dialogos {
 
-/// Inner size in twips, fixed border, light grey ground whatever the desktop's theme is.
+/// Inner size in twips, in the middle of the board, fixed border, light grey ground whatever the
+/// desktop's theme is.
 void Preparar(QDialog& dialogo, Escala escala, double ancho, double alto);
 
 struct Sitio {

@@ -88,7 +88,7 @@ TEST_F(MessageBoxTest, stands_over_the_window_in_front_and_outlives_it) {
         const QWidget& shown = *main_window->centralWidget();
         const QPoint off = box.frameGeometry().center() - shown.mapToGlobal(shown.rect().center());
         EXPECT_LE(off.manhattanLength(), 5) << "in the middle of what the window shows";
-        EXPECT_GE(box.width(), 40 * box.fontMetrics().averageCharWidth());
+        EXPECT_GE(box.width(), 30 * box.fontMetrics().averageCharWidth());
         main_window.reset();
     });
     EXPECT_EQ(boxes.MsgBox("text", style::QuestionYesNo, "title"), button::No);
