@@ -5,6 +5,7 @@
 
 #include "tests/apoyo/diario.h"
 #include "tests/apoyo/mesa.h"
+#include "tests/apoyo/tabla.h"
 
 namespace corvanda::pruebas {
 namespace {
@@ -50,50 +51,6 @@ TEST(Dados, Every_Random_Number_Gives_Its_Face) {
     }
 }
 
-struct Peticion_De_Pase {
-    const char* posicion;
-    int dado;  // that must be played first, 0 for an accepted pass
-};
-
-constexpr Peticion_De_Pase PASES[] = {
-    // From the bar: a lone chip closes nothing; a used die does not count.
-    {"B bar1 | C 5x2 | dice 6 4", 4},
-    {"B bar1 | C 5x1 3x2 | dice 4 6", 6},
-    {"B bar1 | C 12x15 | dice 0 1", 1},
-    {"turn C | C bar1 | B 18x2 | dice 6 4", 4},
-    {"turn C | C bar1 | B 22x1 | dice 0 2", 2},
-    {"B bar1 | C 5x2 3x2 | dice 6 4", 0},
-    {"B bar1 | C 5x2 | dice 6 0", 0},
-    {"B bar1 | C 2x2 | dice 3 3", 0},
-    {"turn C | C bar1 | B 22x2 | dice 0 2", 0},
-    {"turn C | C bar1 | B 18x2 20x3 | dice 4 6", 0},
-    // From the points, the lowest first. A larger die that leads off the board leaves the smaller
-    // one to White; Brown's lowest chip then ends the search. The other side's bar does not count.
-    {"B 10x2 20x13 | C 5x15 | dice 5 2", 5},
-    {"B 20x15 | C 5x15 | dice 6 1", 1},
-    {"B 10x9 | C 15x2 | dice 5 2", 2},
-    {"B 10x4 11x1 | C 15x2 12x2 | dice 5 2", 5},
-    {"B 10x4 11x1 | C 15x2 | dice 0 5", 5},
-    {"B 18x15 | C 5x15 | dice 5 0", 5},
-    {"B 21x15 | C 5x15 | dice 6 2", 2},
-    {"B 20x15 | C 5x15 | dice 4 2", 2},
-    {"B 19x7 20x8 | C 21x2 | dice 5 2", 2},
-    {"B 10x15 | C bar1 | dice 5 2", 5},
-    {"turn C | C 5x2 10x9 | B 12x5 | dice 5 3", 5},
-    {"turn C | C 12x9 | B 7x2 | dice 5 3", 3},
-    {"turn C | C 12x9 15x1 | B 7x2 9x2 | dice 5 3", 5},
-    {"B 10x9 | C 15x2 12x2 | dice 5 2", 0},
-    {"B 10x9 | C 15x2 | dice 5 0", 0},
-    {"B 20x7 22x8 | C 5x15 | dice 6 5", 0},
-    {"B 22x15 | C 5x15 | dice 6 2", 0},
-    {"B 19x7 20x8 | C 21x2 22x2 | dice 5 2", 0},
-    {"turn C | C 12x9 | B 7x2 9x2 | dice 5 3", 0},
-    {"turn C | C 2x1 12x9 | B 23x9 | dice 5 3", 0},
-    {"turn C | C 4x1 12x9 | B 23x9 | dice 1 5", 0},
-    {"turn C | C 3x1 12x9 | B 23x9 | dice 4 1", 0},
-    {"turn C | C 4x9 | B 23x9 | dice 4 1", 4},
-};
-
 // What the box says; the two ways to the refusal and the acceptance have words of their own.
 std::string Respuesta_Al_Pase(const Partida& partida, int dado) {
     const bool blanca = partida.Turno == BLANCA;
@@ -107,9 +64,10 @@ std::string Respuesta_Al_Pase(const Partida& partida, int dado) {
 }
 
 TEST(Pase, Is_Refused_While_A_Chip_Can_Enter_Or_Move) {
-    for (const auto& [posicion, dado] : PASES) {
-        SCOPED_TRACE(posicion);
-        Mesa mesa(posicion);
+    for (const auto& fila : Tabla("core/pases.txt", 2)) {
+        SCOPED_TRACE(fila[0]);
+        const int dado = std::stoi(fila[1]);
+        Mesa mesa(fila[0]);
         mesa.partida.Sonido = True;
         const Partida antes = mesa.partida;
         mesa.escritorio.Contestar(button::Ok, [&] { EXPECT_EQ(mesa.partida.Turno, antes.Turno); });
