@@ -19,7 +19,7 @@ constexpr int RADIO_DE_FORMA = 4;
 constexpr int FORMA_TOLERADA = 28;
 constexpr int MEDIOS_PIXELES = 2;  // an area may be so many halves of a pixel aside
 constexpr int RADIO_DE_COLOR = 8;
-constexpr int COLOR_TOLERADO = 12;
+constexpr int COLOR_TOLERADO = 16;
 
 constexpr int Cuadrado(int numero) {
     return numero * numero;

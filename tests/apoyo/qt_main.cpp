@@ -25,6 +25,7 @@ void UsualFonts(const QString& configuration) {
     Write(configuration, R"(<fontconfig>
         <dir>/usr/share/fonts</dir>
         <cachedir>/var/cache/fontconfig</cachedir>
+        <cachedir prefix="xdg">fontconfig</cachedir>
         <match target="pattern"><edit name="family" mode="append_last">
             <string>DejaVu Sans</string></edit></match>
         <match target="pattern"><edit name="hintstyle" mode="assign">

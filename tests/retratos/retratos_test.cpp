@@ -40,12 +40,16 @@ void Retratar_Tablero(const char* nombre, Ventana& v) {
 
 TEST(Retratos, the_board) {
     constexpr std::pair<const char*, const char*> tabla[] = {
-        {"board_start", "dice 3 1"},
         {"board_bars", "B 11x5 16x4 18x4 bar2 | C 1x5 5x5 12x2 bar3 | dice 6 5"},
         {"board_trays", "B 23x2 22x3 21x1 | C 0x3 1x1 | turn C | dice 2 5"},
         {"board_doubles", "B 0x2 16x5 18x8 | C 12x6 7x7 23x2 | dice 4 4"},
     };
     Ventana v;
+    v.Abrir();
+    v.escritorio.Dados({6, 2, 3, 1});
+    v.vigilante.Esperar(Sortear);
+    v.frm.mnuNew_Click();
+    Retratar_Tablero("board_start", v);
     for (const auto& [nombre, posicion] : tabla) {
         v.Poner(posicion);
         Retratar_Tablero(nombre, v);
@@ -108,7 +112,6 @@ class Dialogos : public testing::Test {
     QImage Sorteo(std::initializer_list<int> tiros, int ratio = 1) {
         escritorio.Dados(tiros);
         FrmVolado dialogo(nullptr, modulo, escritorio, escala, estampas, [] {});
-        dialogo.show();
         for (std::size_t i = 0; i < tiros.size(); ++i) dialogo.Btn_Click();
         return Abierta(dialogo, ratio);
     }
@@ -213,7 +216,23 @@ TEST(Retratos, the_help_window) {
     }
 }
 
+/// Icons of boxes that tell which one it is and are the same in every version of the toolkit.
+struct Iconos_Lisos final : QProxyStyle {
+    Iconos_Lisos() : QProxyStyle("Fusion") {}
+    int pixelMetric(PixelMetric medida, const QStyleOption* opcion,
+                    const QWidget* control) const override {
+        if (medida == PM_MessageBoxIconSize) return 32;
+        return QProxyStyle::pixelMetric(medida, opcion, control);
+    }
+    QIcon standardIcon(StandardPixmap icono, const QStyleOption*, const QWidget*) const override {
+        QPixmap liso(32, 32);
+        liso.fill(QColor::fromHsv(40 * (icono - SP_MessageBoxInformation), 255, 255));
+        return liso;
+    }
+};
+
 TEST(Retratos, the_message_boxes) {
+    QApplication::setStyle(new Iconos_Lisos);
     const std::tuple<const char*, const char*, Integer> tabla[] = {
         {"box_critical", "You can't do that move", style::Critical},
         {"box_information", "You have to play the  6", style::Information},
@@ -228,6 +247,7 @@ TEST(Retratos, the_message_boxes) {
         });
         v.boxes.MsgBox(texto, estilo, "Corvanda");
     }
+    QApplication::setStyle("Fusion");
 }
 
 /// The corner of the window in which its menus are, with those that are open.

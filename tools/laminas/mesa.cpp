@@ -26,6 +26,11 @@ class Lienzo final : public QWidget {
         if (medida == PdmDevicePixelRatioScaled) {
             return static_cast<int>(ratio * devicePixelRatioFScale());
         }
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+        if (medida == PdmDevicePixelRatioF_EncodedA || medida == PdmDevicePixelRatioF_EncodedB) {
+            return encodeMetricF(medida, ratio);
+        }
+#endif
         return QWidget::metric(medida);
     }
 
