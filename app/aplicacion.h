@@ -38,13 +38,16 @@ class Aplicacion final : public QObject {
     /// Shows the main window at once.
     void Mostrar_Principal();
 
-    FrmPrincipal& Ventana() { return *principal; }
+    /// The main window, which is made when it is first asked for.
+    FrmPrincipal& Ventana();
     Partida& Estado() { return partida; }
 
   private:
+    void Hacer_Principal();
     void Mostrar_Acerca();
     std::unique_ptr<FrmAbout> Hacer_Acerca(QWidget* ventana);
 
+    RandomNumbers& azar;
     Partida partida = Diseno();
     ProgramFolder programa;
     QtEventLoop eventos;
