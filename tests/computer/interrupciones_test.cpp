@@ -2,52 +2,29 @@
 // box, and in the start-player dialog.
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "computer/computadora.h"
 #include "tests/apoyo/diario.h"
 #include "tests/apoyo/mesa.h"
+#include "tests/apoyo/tabla.h"
 
 namespace corvanda::pruebas {
 namespace {
 
-const char* const NADIE_PULSA = "a box is modal";
-const char* const NADA = "";
-
-/// An action that lets events run, and when something else happens in the middle of it.
 struct Momento {
-    const char *posicion, *accion;  // as for Mesa::Hacer, or "roll", or "new" for a game
-    Byte nivel;
-    int desde, hasta;       // passes of the event loop; 0 is under a box, -1 in the dialog
-    const char* respuesta;  // to a press of either side; nothing answers a drop, nor a pass then
-};
+    explicit Momento(const std::vector<std::string>& fila)
+        : posicion(fila[0]),
+          accion(fila[1]),
+          nivel(static_cast<Byte>(std::stoi(fila[2]))),
+          respuesta(fila[5]) {}
 
-// Every die shows a 3.
-const Momento MOMENTOS[] = {
-    {"B 0x15 | C 12x15 | dice 0 2", "0/2", DOS_PERSONAS, 1, 4, SIN_JUEGO},
-    // Where no move came before, the old dice are still shown, and nothing answers.
-    {"turn C | C 2x1 12x14 | B 0x15 | dice 5 3", "pass", DOS_PERSONAS, 1, 4, NADA},
-    {"dice 5 3", "new", DOS_PERSONAS, -1, -1, NADA},
-    {"dice 5 3", "new", DOS_PERSONAS, 1, 4, NADA},
-    {"", "new", DOS_PERSONAS, 1, 4, NADA},
-    {"turn B", "roll", PRINCIPIANTE, 1, 4, NADA},
-    {"turn B", "roll", PRINCIPIANTE, 5, 4 + 4 * 6, NO_ES_SU_TURNO},
-    {"B 21x15 | C bar1 12x14 | turn B", "roll", PRINCIPIANTE, 4 + 6 + 1, 4 + 6 + 4, NADA},
-    {"B 21x15 | C bar1 12x14 | turn B", "roll", PRINCIPIANTE, 0, 0, NADIE_PULSA},
-    {"B 5x1 bar14 | C 1x2 | turn B", "roll", PRINCIPIANTE, 0, 0, NADIE_PULSA},
-    {"B 18x15 | C 2x1 | turn B", "roll", AVANZADO, 0, 0, NADA},
-    {"B 0x15 | C 5x15 | dice 5 1", "0/5", DOS_PERSONAS, 0, 0, NADIE_PULSA},
-    {"B 8x15 | C 12x15 | dice 5 1", "8/5", DOS_PERSONAS, 0, 0, NADIE_PULSA},
-    {"dice 5 1", "C0", DOS_PERSONAS, 0, 0, NADIE_PULSA},
-    {"dice 5 1", "pass", DOS_PERSONAS, 0, 0, NADIE_PULSA},
-    {"B bar1 0x14 | C 5x2 3x2 12x11 | dice 6 4", "pass", DOS_PERSONAS, 0, 0, NADIE_PULSA},
-    {"B 23x1 | C 12x15 | dice 1 4", "23/A1", DOS_PERSONAS, 0, 0, NADA},
-    {"turn C | C 0x1 | B 12x15 | dice 1 4", "0/A0", DOS_PERSONAS, 0, 0, NADA},
+    const std::string posicion, accion;
+    const Byte nivel;
+    const std::string respuesta;
 };
 
 /// A table with the computer at it, watched for two turns at once.
 struct Escena : Oponente, Mesa {
-    explicit Escena(const char* posicion, Byte nivel = DOS_PERSONAS) : Mesa(posicion, this) {
+    explicit Escena(const std::string& posicion, Byte nivel = DOS_PERSONAS) : Mesa(posicion, this) {
         for (int i = 0; i < 20; ++i) escritorio.Dados({3, 3});
         escritorio.Contestar_Siempre();
         partida.Nivel = nivel;
@@ -69,12 +46,11 @@ struct Escena : Oponente, Mesa {
         if (pase == 0) escritorio.Contestar(button::Ok, suceso);
         Volado_Fijo primero(partida, CAFE);
         if (pase < 0) primero.mientras = suceso;
-        const std::string accion = momento.accion;
-        if (accion == "new") return juego.Empezar(DOS_PERSONAS, primero);
-        if (accion == "roll") return juego.Tirar_Dados();
+        if (momento.accion == "new") return juego.Empezar(DOS_PERSONAS, primero);
+        if (momento.accion == "roll") return juego.Tirar_Dados();
         // A chip is held when the pass is given.
-        if (momento.respuesta == NADA && accion == "pass") Hacer("C14");
-        Hacer(accion);
+        if (momento.respuesta == "nothing" && momento.accion == "pass") Hacer("C14");
+        Hacer(momento.accion);
     }
     // Returns what the journal says of hands, and leaves it as it was.
     Diario Molestar(bool pasa = true) {
@@ -110,12 +86,11 @@ void Probar_Manos(const Momento& momento, int pase) {
     escena.Correr(momento, pase, [&] {
         EXPECT_FALSE(escena.juego.Se_Puede_Tomar({Arreglo::Blanca, 0}));
         EXPECT_FALSE(escena.juego.Se_Puede_Tomar({Arreglo::Cafe, 0}));
-        respuesta = escena.Molestar(momento.respuesta != std::string(NO_ES_SU_TURNO));
+        respuesta = escena.Molestar(momento.respuesta != "not your turn");
     });
-    Diario esperada;
-    for (int i = 0; i < 2 && *momento.respuesta != '\0'; ++i) {
-        esperada.insert(esperada.end(), {Suena("strike"), momento.respuesta});
-    }
+    const std::string caja = momento.respuesta == "no game" ? SIN_JUEGO : NO_ES_SU_TURNO;
+    Diario esperada{Suena("strike"), caja, Suena("strike"), caja};
+    if (momento.respuesta == "nothing") esperada.clear();
     EXPECT_EQ(respuesta, esperada);
     EXPECT_EQ(escena.escritorio.diario, tranquila.escritorio.diario);
     EXPECT_EQ(escena.escritorio.Pases(), tranquila.escritorio.Pases());
@@ -175,17 +150,16 @@ void Probar_Cierre(const Momento& momento, int pase, bool con_otro_juego) {
 }
 
 TEST(Interrupciones, Leave_One_Game_And_One_Turn) {
-    for (const Momento& momento : MOMENTOS) {
-        for (int pase = momento.desde; pase <= momento.hasta; ++pase) {
-            SCOPED_TRACE(std::string(momento.posicion) + ": " + momento.accion + ", pass " +
+    for (const auto& fila : Tabla("computer/momentos.txt", 6)) {
+        const Momento momento(fila);
+        for (int pase = std::stoi(fila[3]); pase <= std::stoi(fila[4]); ++pase) {
+            SCOPED_TRACE(momento.posicion + ": " + momento.accion + ", pass " +
                          std::to_string(pase));
-            if (momento.respuesta != NADIE_PULSA) Probar_Manos(momento, pase);
+            if (!momento.respuesta.empty()) Probar_Manos(momento, pase);
             Probar_Otro_Juego(momento, pase, DOS_PERSONAS, CAFE);
             Probar_Otro_Juego(momento, pase, PRINCIPIANTE, CAFE);
             Probar_Otro_Juego(momento, pase, PRINCIPIANTE, BLANCA);
-            for (const bool con_otro_juego : {false, true}) {
-                Probar_Cierre(momento, pase, con_otro_juego);
-            }
+            for (const bool otro : {false, true}) Probar_Cierre(momento, pase, otro);
         }
     }
 }
@@ -204,26 +178,6 @@ TEST(Interrupciones, Passes_In_The_Pause_Neither_Repeat_Nor_Nest) {
         EXPECT_EQ(escena.escritorio.Pases(), 4 + 2 + 4 + mas * (4 + 6 + 4));
         Esperar_Orden(escena);
     }
-}
-
-// However often somebody asks for another game in the dialog or in the first roll, each begins
-// where the first did, and only the last one is rolled to its end.
-TEST(Interrupciones, New_Games_Follow_Each_Other_And_Do_Not_Nest) {
-    Escena escena("");
-    escena.escritorio.Sembrar(1);
-    std::set<void*> pisos;
-    int juegos = 0;
-    const auto otro = [&] { escena.Empezar(DOS_PERSONAS, CAFE); };
-    escena.volado.mientras = [&] {
-        pisos.insert(__builtin_frame_address(0));
-        if (++juegos == 50) return;
-        if (juegos % 2 == 0) return otro();
-        escena.escritorio.En_El_Pase(juegos % 4 + 1, otro);
-    };
-    otro();
-    EXPECT_EQ(juegos, 50);
-    EXPECT_EQ(pisos.size(), 1U);
-    EXPECT_EQ(escena.escritorio.Pases(), 13 * 2 + 12 * 4 + 4);
 }
 
 }  // namespace

@@ -12,10 +12,8 @@
 namespace corvanda::pruebas {
 namespace {
 
-using Hand = std::function<void(QMessageBox&)>;
-
 /// What a person does with the box as soon as it is open.
-void WhenOpen(const Hand& hand) {
+void WhenOpen(const std::function<void(QMessageBox&)>& hand) {
     QTimer::singleShot(0, [hand] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
@@ -29,11 +27,9 @@ void WhenOpen(const Hand& hand) {
 }
 
 void Do(QMessageBox& box, const std::string& what) {
-    if (what == "frame") box.close();
     if (what == "Enter") QTest::keyClick(&box, Qt::Key_Return);
     if (what == "Esc") QTest::keyClick(&box, Qt::Key_Escape);
-    const auto buttons = box.buttons();
-    for (QAbstractButton* each : buttons)
+    for (QAbstractButton* each : box.buttons())
         if (each->text().toStdString() == what) each->click();
 }
 
@@ -43,35 +39,22 @@ class MessageBoxTest : public testing::Test {
     QtMessageBoxes boxes{pointer};
 };
 
-TEST_F(MessageBoxTest, shows_and_answers_each_style_as_it_was_asked) {
-    const struct {
-        Integer style;
-        const char *captions, *what;
-        Integer result;
-    } table[] = {
-        {style::Critical, "OK", "OK", button::Ok},
-        {style::Exclamation, "OK", "Enter", button::Ok},
-        {style::Information, "OK", "Esc", button::Ok},
-        {4711, "OK", "OK", button::Ok},
-        {style::QuestionYesNo, "&No &Yes", "&Yes", 6},
-        {style::QuestionYesNo, "&No &Yes", "Enter", 6},
-        {style::QuestionYesNo, "&No &Yes", "&No", 7},
-        {style::QuestionYesNo, "&No &Yes", "Esc", 7},
+TEST_F(MessageBoxTest, answers_each_style_as_it_was_asked_and_shows_plain_text) {
+    const std::tuple<Integer, const char*, Integer> table[] = {
+        {style::Critical, "OK", button::Ok},         {style::Exclamation, "Enter", button::Ok},
+        {style::Information, "Esc", button::Ok},     {4711, "OK", button::Ok},
+        {style::QuestionYesNo, "&Yes", button::Yes}, {style::QuestionYesNo, "Enter", button::Yes},
+        {style::QuestionYesNo, "&No", button::No},   {style::QuestionYesNo, "Esc", button::No},
     };
     const std::string text = "¿ <b>Are</b> you & I sure ?\nReally &sure";
-    for (const auto& row : table) {
-        WhenOpen([&](QMessageBox& box) {
-            QStringList captions;
-            for (const QAbstractButton* each : box.buttons()) captions += each->text();
-            captions.sort();
-            EXPECT_EQ(captions.join(' '), row.captions);
-            EXPECT_EQ(box.windowTitle(), "¿ Exit ?");
+    for (const auto& [style, what, result] : table) {
+        WhenOpen([&, what = what](QMessageBox& box) {
             const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
             EXPECT_EQ(label->text().toStdString(), text);
             EXPECT_EQ(label->textFormat(), Qt::PlainText);
-            Do(box, row.what);
+            Do(box, what);
         });
-        EXPECT_EQ(boxes.MsgBox(text, row.style, "¿ Exit ?"), row.result) << row.what;
+        EXPECT_EQ(boxes.MsgBox(text, style, "¿ Exit ?"), result) << what;
     }
 }
 

@@ -6,7 +6,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QThread>
-#include <algorithm>
 #include <map>
 
 #include "desktop/wave_file.h"
@@ -17,8 +16,6 @@ namespace corvanda::pruebas {
 namespace {
 
 using namespace std::chrono_literals;
-
-using Signal = std::vector<std::int16_t>;
 
 struct WaveFormat {
     quint32 coding = 1;  ///< 1 is plain samples
@@ -33,22 +30,12 @@ QByteArray WaveBytes(const WaveFormat& format, const QByteArray& data) {
     return Chunk("RIFF", "WAVE" + Chunk("fmt ", head) + Chunk("data", data));
 }
 
-QByteArray BytesOf(const Signal& signal) {
-    return {reinterpret_cast<const char*>(signal.data()),
-            static_cast<qsizetype>(signal.size() * sizeof signal[0])};
-}
-
 /// Frames of two equal samples, none of them 0, so that silence around them can be told apart.
-Signal Ramp(int frames, int start) {
-    Signal signal;
-    for (int i = 0; i < 2 * frames; ++i)
-        signal.push_back(static_cast<std::int16_t>(start + i / 2 % 5000));
+QByteArray Ramp(int frames, int start) {
+    QByteArray signal;
+    for (int i = 0; i < frames; ++i)
+        signal += Number(static_cast<quint16>(start + i % 5000), 2).repeated(2);
     return signal;
-}
-
-Signal SignalOf(const void* bytes, std::size_t size) {
-    const auto* first = static_cast<const std::int16_t*>(bytes);
-    return {first, first + size / sizeof *first};
 }
 
 class WaveTest : public testing::Test {
@@ -66,21 +53,15 @@ class WaveTest : public testing::Test {
         qputenv(name, QFile::encodeName(value));
     }
 
-    std::optional<Signal> Read(const QByteArray& bytes) const {
+    QByteArray Read(const QByteArray& bytes) const {
         WriteBytes(folder.filePath("read.Wav"), bytes);
         const auto samples = wave::ReadWaveFile(folder.filePath("read.Wav"));
         if (!samples) return {};
-        return SignalOf(samples->data(), samples->size());
+        return QByteArray(reinterpret_cast<const char*>(samples->data()),
+                          qsizetype(samples->size()));
     }
-    Signal Heard() const {
-        const QByteArray bytes = ReadBytes(heard);
-        return SignalOf(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    }
-    bool ComesToHear(const Signal& part) const {
-        return Comes([&] {
-            const Signal all = Heard();
-            return std::search(all.begin(), all.end(), part.begin(), part.end()) != all.end();
-        });
+    bool ComesToHear(const QByteArray& part) const {
+        return Comes([&] { return ReadBytes(heard).contains(part); });
     }
     static bool Comes(const std::function<bool()>& condition) {
         return QTest::qWaitFor(condition, 15000);
@@ -97,9 +78,9 @@ class WaveTest : public testing::Test {
                                               WavePatience{.quiet = 20ms, .end = 100ms});
     }
     /// Plays a file by that name, which is written first when there is something to write.
-    void Play(const char* name, const Signal& signal = {}) {
-        if (!signal.empty())
-            WriteBytes(folder.filePath(QString("Sonidos/") + name), WaveBytes({}, BytesOf(signal)));
+    void Play(const char* name, const QByteArray& signal = {}) {
+        if (!signal.isEmpty())
+            WriteBytes(folder.filePath(QString("Sonidos/") + name), WaveBytes({}, signal));
         player->sndPlaySound(folder.path().toStdString() + "\\Sonidos\\" + name);
     }
 
@@ -111,11 +92,10 @@ class WaveTest : public testing::Test {
 };
 
 TEST_F(WaveTest, a_file_is_heard_as_it_is_or_not_at_all) {
-    const Signal signal = {0, 1, -1, 100, -12345, 32767, -32768, 7};
-    EXPECT_EQ(Read(WaveBytes({}, BytesOf(signal))), signal);
-    EXPECT_EQ(Read(WaveBytes({}, BytesOf(Ramp(1000, 1))).left(44 + 4 * 600)), Ramp(600, 1))
-        << "cut off";
-    EXPECT_EQ(Read(WaveBytes({.channels = 1}, BytesOf(signal))).value_or(Signal{}).size(), 16U);
+    const QByteArray signal = Ramp(1000, 1);
+    EXPECT_EQ(Read(WaveBytes({}, signal)), signal);
+    EXPECT_EQ(Read(WaveBytes({}, signal).left(44 + 4 * 600)), signal.left(4 * 600)) << "cut off";
+    EXPECT_EQ(Read(WaveBytes({.channels = 1}, signal)).size(), 2 * signal.size());
     const QByteArray second(44100, '\x21');
     const struct {
         const char* what;
@@ -132,9 +112,8 @@ TEST_F(WaveTest, a_file_is_heard_as_it_is_or_not_at_all) {
         {"an hour", WaveBytes({1, 1, 8000, 8}, QByteArray(28'800'000, 'x')), 0},
     };
     for (const auto& row : table) {
-        const auto read = Read(row.bytes);
-        EXPECT_EQ(read.has_value(), row.seconds > 0) << row.what;
-        EXPECT_NEAR(static_cast<double>(read.value_or(Signal{}).size()) / 88200, row.seconds, 0.01);
+        const auto size = static_cast<double>(Read(row.bytes).size());
+        EXPECT_NEAR(size / wave::BytesPerSecond, row.seconds, 0.01) << row.what;
     }
 }
 
@@ -143,15 +122,18 @@ TEST_F(WaveTest, a_new_sound_takes_the_place_of_the_one_that_plays) {
     EXPECT_EQ(player->waveOutGetNumDevs(), 1U);
     Play("long.Wav", Ramp(44100 * 8, 10000));
     ASSERT_TRUE(ComesToHear(Ramp(1000, 10000)));
-    const Signal shorter = Ramp(9000, 1);
+    const QByteArray shorter = Ramp(9000, 1);
     Play("short.Wav", shorter);
     ASSERT_TRUE(ComesToHear(shorter));
-    const Signal all = Heard();
-    const auto begin = std::search(all.begin(), all.end(), shorter.begin(), shorter.end());
-    EXPECT_NE(*(begin - 1), 0) << "no gap between the two";
-    EXPECT_GE(*(begin - 2 * 100), 10000) << "the fall takes two milliseconds, 88 frames";
-    EXPECT_TRUE(std::is_sorted(begin - 2 * 88, begin, std::greater<>())) << "without a tick";
-    EXPECT_TRUE(std::all_of(begin + 18000, all.end(), [](auto each) { return each == 0; }));
+    const QByteArray all = ReadBytes(heard);
+    const auto begin = all.indexOf(shorter);
+    const auto before = [&](int frames) {
+        return qFromLittleEndian<qint16>(all.data() + begin - 4 * frames);
+    };
+    EXPECT_NE(before(1), 0) << "no gap between the two";
+    EXPECT_GE(before(100), 10000) << "the fall takes two milliseconds, 88 frames";
+    for (int i = 88; i > 1; --i) EXPECT_GE(before(i), before(i - 1)) << "without a tick";
+    EXPECT_EQ(all.mid(begin + shorter.size()).count('\0'), all.size() - begin - shorter.size());
     for (int i = 0; i < 200; ++i) Play("long.Wav");
     Play("short.Wav", Ramp(9000, 20000));
     EXPECT_TRUE(ComesToHear(Ramp(9000, 20000))) << "the newest of many, as it is on the disk now";
@@ -228,12 +210,10 @@ struct Server {
             each->waitForFinished();
         }
     }
-    bool ComesToHear(const Signal& part) {
+    bool ComesToHear(const QByteArray& part) {
         QByteArray all;
-        const auto heard = [&] {
-            return (all += listener.readAllStandardOutput()).contains(BytesOf(part));
-        };
-        return QTest::qWaitFor(heard, 20000);
+        return QTest::qWaitFor(
+            [&] { return (all += listener.readAllStandardOutput()).contains(part); }, 20000);
     }
     QProcess process, listener;
 };

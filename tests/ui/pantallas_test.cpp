@@ -43,10 +43,7 @@ TEST(Pantallas, a_chip_in_the_hand_and_the_pointer_are_drawn_for_the_screen_they
 }
 
 TEST(Pantallas, so_are_the_pictures_in_the_dialogs) {
-    constexpr std::pair<const char*, const char*> tabla[] = {{"mnuVel", "Image3"},
-                                                             {"mnuNew", "Image1"}};
-    for (const auto& [entrada, imagen] : tabla) {
-        SCOPED_TRACE(entrada);
+    for (const auto& [entrada, imagen] : {std::pair("mnuVel", "Image3"), {"mnuNew", "Image1"}}) {
         Ventana v;
         v.Abrir();
         v.escritorio.Azares({0.5, 0.5, 0.5});
@@ -56,7 +53,7 @@ TEST(Pantallas, so_are_the_pictures_in_the_dialogs) {
                 QTest::mouseClick(tirar, Qt::LeftButton);
             Llevar_A_La_Otra(dialogo);
             figura->grab();
-            EXPECT_EQ(figura->pixmap().devicePixelRatio(), figura->devicePixelRatioF());
+            EXPECT_EQ(figura->pixmap().devicePixelRatio(), figura->devicePixelRatioF()) << imagen;
             dialogo.close();
         });
         v.Entrada(entrada)->trigger();
