@@ -51,6 +51,7 @@ HelpBrowser::HelpBrowser(const HelpFile& help, QWidget* parent) : QTextBrowser(p
     setAccessibleName(QStringLiteral("Page"));
     setOpenLinks(false);
     setPalette(Paper(palette()));
+    setAutoFillBackground(true);  // beside the page, too
     document()->setDocumentMargin(margin);
     // Where a word does not fit, the page can be scrolled.
     setWordWrapMode(QTextOption::WordWrap);
