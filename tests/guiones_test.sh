@@ -77,6 +77,7 @@ PAQUETES='test falta orden-que-falta'
 caso "test.sh" 0 "PASS, every test of the release build" test.sh -- -R Pase
 llamo "ctest.* -R Pase" "words for ctest"
 llamo "apt-get.*install.* falta" "a package that is missing"
+no_llamo "Xvfb" "test.sh"
 llamo "CORVANDA_WERROR=OFF" "test.sh"
 caso "warnings as errors" 0 "PASS" test.sh --werror
 llamo "CORVANDA_WERROR=ON" "test.sh --werror"
