@@ -131,12 +131,15 @@ TEST(Validez, Every_Kind_Of_Fault_Is_Named) {
         {"tray 1 is shown without", [](Partida& p) { p.Adios[1].Visible = false; }},
         {"tray 0 holds chips before", [](Partida& p) { p.Cafe_En_Casa = False; }},
         {"Dado1 is out of range", [](Partida& p) { p.Dado1 = 7; }},
+        {"Dado2 is out of range", [](Partida& p) { p.Dado2 = -1; }},
         {"Dado1 shows another face", [](Partida& p) { p.Dado1 = 0; }},
         {"a flag is neither", [](Partida& p) { p.Jugando = 1; }},
         {"Turno is no colour", [](Partida& p) { p.Turno = 2; }},
+        {"Turno is no colour", [](Partida& p) { p.Turno = -2; }},
         {"Nivel is no level", [](Partida& p) { p.Nivel = ULTIMO_NIVEL + 1; }},
         {"Dobles is above 2", [](Partida& p) { p.Dobles = 3; }},
         {"Origen is no place", [](Partida& p) { p.Origen = ORIGEN_COLOCACION; }},
+        {"Origen is no place", [](Partida& p) { p.Origen = BARRA_BLANCA; }},
     };
     const Mesa mesa(MEDIO);
     for (const auto& [nombre, romper] : casos) {
