@@ -34,6 +34,7 @@ class Mudo : public MessageBoxes,
     std::string EXEName() const override { return {}; }
     void Refrescar(Control /*control*/, const Image& /*antes*/) override {}
     void Iniciar_Arrastre(Control ficha) override { arrastrada = ficha; }
+    void Rechazar(Control /*ficha*/) override {}
     void Cancelar_Arrastre() override {}
 
     /// The next move of a game that runs, through the handlers as a hand would: a press and a drop.

@@ -34,7 +34,18 @@ void Juego::Presionar(Integer color, Integer Index, Integer Button) {
         puertos.Tablero.Iniciar_Arrastre({bando.fichas, Index});
     } else {
         Beeper();
+        puertos.Tablero.Rechazar({bando.fichas, Index});
     }
+}
+
+void Juego::MouseDown(Control ficha, Integer Button) {
+    if (Recibe_Presiones(ficha.Nombre)) Presionar(Bando_De(ficha).color, ficha.Index, Button);
+}
+
+void Juego::DragDrop(Control destino, Control Source) {
+    if (destino.Nombre == Arreglo::Triangle) Triangle_DragDrop(destino.Index, Source);
+    if (Recibe_Presiones(destino.Nombre)) Soltar_En_Ficha(destino, Source);
+    if (destino.Nombre == Arreglo::Adios) Adios_DragDrop(destino.Index, Source);
 }
 
 // Neither does anything count while the winner is announced.

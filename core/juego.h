@@ -78,6 +78,10 @@ class Juego {
     void Triangle_DragDrop(Integer Index, Control Source);
     void Blanca_DragDrop(Integer Index, Control Source);
     void Cafe_DragDrop(Integer Index, Control Source);
+    /// The handlers above and Adios_DragDrop, by the image that was pressed or dropped on. Other
+    /// images take no presses and no drops.
+    void MouseDown(Control ficha, Integer Button);
+    void DragDrop(Control destino, Control Source);
     /// The point (0..23) a chip image stands on, by its position alone.
     Integer GetNumber(const Image& Imagen) const;
     /// Whether a press on this chip would pick one up now.

@@ -16,6 +16,9 @@ class Pantalla {
     /// A press took this chip: it follows the pointer until it is dropped or put back.
     virtual void Iniciar_Arrastre(Control ficha) = 0;
 
+    /// A press on this chip was refused, and nothing but a sound tells so.
+    virtual void Rechazar(Control ficha) = 0;
+
     /// A chip that is being dragged goes back without effect; nothing happens when there is none.
     virtual void Cancelar_Arrastre() = 0;
 };

@@ -58,9 +58,9 @@ QString Estampas::Nombre_De(Picture estampa) {
         case Picture::Triangulo_Inf_B:
             return "triangulo_inf_b";
         case Picture::Blanca:
-            return "blanca";
+            return "disco_blanco";
         case Picture::Cafe:
-            return "cafe";
+            return "disco_cafe";
         case Picture::Adios:
             return "adios";
         default:

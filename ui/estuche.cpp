@@ -5,18 +5,20 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QWindow>
 #include <algorithm>
-#include <utility>
+#include <cmath>
 
-#include "ui/estuche_accesible.h"
+#include "core/bandos.h"
 #include "ui/lugares.h"
 
 namespace corvanda {
 
 namespace {
 
-constexpr int REGRESO = 140;      // milliseconds of a refused chip's way back
-constexpr qreal ATENUADA = 0.35;  // what is left of a chip at its place while it is dragged
+constexpr int CICLO = 10;     // milliseconds of one cycle of the computer's pause
+constexpr int CUADRO = 16;    // milliseconds between two pictures of what moves
+constexpr int A_MANO = 1000;  // a person's own pace
 
 Integer Boton_De(Qt::MouseButton boton) {
     switch (boton) {
@@ -38,10 +40,7 @@ Estuche::Estuche(const Partida& partida, Escala escala, Estampas& estampas, QWid
       partida(partida),
       escala(escala),
       estampas(estampas),
-      pintura(partida, escala, estampas, *this),
-      flotante(fondo) {
-    // Before anything is told of this widget, or it would be described as any other.
-    EstucheAccesible::Instalar();
+      mano(trazado, pintura, *this, fondo) {
     setObjectName("Estuche");
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
@@ -51,40 +50,43 @@ Estuche::Estuche(const Partida& partida, Escala escala, Estampas& estampas, QWid
         "The arrow keys choose a place, Space picks up a chip or drops it, Escape puts it back.");
     setFixedSize(escala.Tamano(ANCHO, ALTO));
     renovacion.setSingleShot(true);
-    connect(&renovacion, &QTimer::timeout, this, &Estuche::Renovar_Puntero);
+    latido.setTimerType(Qt::PreciseTimer);
+    reloj.start();
+    connect(&renovacion, &QTimer::timeout, this, &Estuche::Renovar);
+    connect(&latido, &QTimer::timeout, this, &Estuche::Latir);
+    connect(&teclado, &Teclado::tocado, this, [this](QRect area) { update(area); });
+    connect(&teclado, &Teclado::elegida, this, &Estuche::Mirar_Bajo);
+    connect(&mano, &Mano::cambiada, this, [this](Control ficha, const Lugares& antes) {
+        Tocar(ficha);
+        Tocar_Luces(antes);
+        renovacion.start(0);
+    });
+    connect(&mano, &Mano::rechazada, this, &Estuche::Rechazar);
     Prepararse();
+}
+
+void Estuche::Sentar(Juego& mesa) {
+    juego = &mesa;
+    mano.Sentar(mesa);
 }
 
 // At the start, and whenever the board comes to a screen with other pixels.
 void Estuche::Prepararse() {
     preparada = devicePixelRatioF();
-    mano = Hacer_Mano();
+    abierta = Hacer_Mano("mano", Qt::OpenHandCursor);
+    cerrada = Hacer_Mano("mano_cerrada", Qt::ClosedHandCursor);
     pintura.Preparar();
     renovacion.start(0);
 }
 
-QCursor Estuche::Hacer_Mano() const {
+QCursor Estuche::Hacer_Mano(const QString& nombre, Qt::CursorShape si_falta) const {
     const int lado = qRound(20 * escala.K());
-    const QPixmap dibujo = estampas.Suelta("mano", lado, preparada);
-    if (dibujo.isNull()) return Qt::OpenHandCursor;
+    const QPixmap dibujo = estampas.Suelta(nombre, lado, preparada);
+    if (dibujo.isNull()) return si_falta;
     // On X11 the toolkit hands the hot spot on as it is, to where it counts the picture's pixels.
     const bool en_pixeles = QGuiApplication::platformName() == "xcb";
     const double paso = lado * (en_pixeles ? preparada : 1) / 32;
     return QCursor(dibujo, qRound(16 * paso), qRound(18 * paso));
-}
-
-QRect Estuche::Area(Integer lugar) const {
-    const QRectF cuadro = lugares::Cuadro(partida, lugar);
-    return escala.Lugar(cuadro.left(), cuadro.top(), cuadro.width(), cuadro.height());
-}
-
-int Estuche::Grueso() const {
-    return std::max(2, qRound(escala.Pixeles(30)));
-}
-
-// Asked for at each painting, because the chip may come to another screen on its way.
-FichaFlotante::Estampa Estuche::En_El_Aire(const Image& imagen) const {
-    return [this, imagen] { return pintura.Estampa_De(imagen); };
 }
 
 Control Estuche::Bajo(QPointF lugar) const {
@@ -92,152 +94,188 @@ Control Estuche::Bajo(QPointF lugar) const {
                       static_cast<Single>(escala.Twips(lugar.y())));
 }
 
+bool Estuche::Se_Puede_Tomar(Integer lugar) const {
+    return mano.Se_Puede_Tomar(lugares::Tope(partida, lugar));
+}
+
 // Painting
+
+Pintura::Escena Estuche::Escena() const {
+    return {mano.En_El_Aire(), mano.Ocupada(), mano.Destinos(), bajo_la_mano, Piensa()};
+}
 
 void Estuche::paintEvent(QPaintEvent* evento) {
     if (devicePixelRatioF() != preparada) Prepararse();
     QPainter pintor(this);
     pintor.setClipRegion(evento->region());
-    pintura.Pintar(pintor, evento->rect(), velada);
+    pintura.Pintar(pintor, evento->rect(), Escena(), secuencia);
     teclado.Pintar(pintor);
+}
+
+void Estuche::Tocar(Control control) {
+    const Image* imagen = Imagen_De(partida, control);
+    if (imagen == nullptr) return;
+    update(trazado.Huella(*imagen));
+    if (const auto pose = secuencia.Pose_De(control)) update(trazado.Huella(pose->esquina));
+}
+
+void Estuche::Tocar_Luces(const Lugares& luces) {
+    for (std::size_t i = 0; i < LUGARES; ++i) {
+        if (luces[i]) update(pintura.Area_De_Luz(static_cast<Integer>(i)));
+    }
 }
 
 // The number moves to another chip of a tall stack when one comes or goes.
 void Estuche::Refrescar_Pila_De(const Image& ficha) {
-    for (Integer p = 0; p < PUNTOS; ++p) {
-        const Pila& pila = Pila_En(partida, p);
-        const Image& triangulo = partida.Triangle.at(static_cast<std::size_t>(p));
-        const bool abajo = ficha.Top > partida.Triangle[23].Top - partida.Cafe[0].Height;
-        if (triangulo.Left != ficha.Left || abajo != (p >= 12) || pila.Cuenta() < 4) continue;
-        const Arreglo color = Punto_En(partida, p).Owner == CAFE ? Arreglo::Cafe : Arreglo::Blanca;
-        for (Integer item = 0; item < pila.Cuenta(); ++item) {
-            update(Lugar(*Imagen_De(partida, {color, pila.Ficha(item)})).toAlignedRect());
-        }
+    const QPoint medio = trazado.Lugar(ficha).center().toPoint();
+    for (Integer lugar = 0; lugar < lugares::CUANTOS; ++lugar) {
+        const bool baja = Es_Punto(lugar) && Pila_En(partida, lugar).Cuenta() < 4;
+        if (!baja && trazado.Area(lugar).contains(medio)) update(trazado.Area(lugar));
     }
 }
 
 void Estuche::Refrescar(Control control, const Image& antes) {
     const Image& ahora = *Imagen_De(partida, control);
     pintura.Cambiar(control);
-    update(Lugar(antes).toAlignedRect());
-    update(Lugar(ahora).toAlignedRect());
+    update(trazado.Huella(antes));
+    update(trazado.Huella(ahora));
     renovacion.start(0);
     emit cambiada(control);
+    const bool tirado = control.Nombre == Arreglo::Dado && ahora.ZOrder != antes.ZOrder;
+    if (tirado && !Sin_Movimiento()) {
+        secuencia.Avanzar(reloj.elapsed());
+        secuencia.Tirar(control, Trazado::Esquina(ahora));
+        Animar();
+    }
     const bool movida = antes.Left != ahora.Left || antes.Top != ahora.Top;
     if (!movida || !Recibe_Presiones(control.Nombre)) return;
     Refrescar_Pila_De(antes);
     Refrescar_Pila_De(ahora);
-    if (control == soltando) soltando = {};
-    if (control == velada.ficha) flotante.Desaparecer();
-    if (control == velada.ficha) Mostrar_Oculta();
-    Volar(control, antes);
+    mano.Movida(control);
+    Mover_A_La_Vista(control, antes);
 }
 
-void Estuche::Ocultar(Control ficha, qreal opacidad) {
-    Mostrar_Oculta();
-    velada = {ficha, opacidad};
-    update(Lugar(*Imagen_De(partida, ficha)).toAlignedRect());
+// What moves by itself
+
+// Whether the desktop asks for no animations.
+bool Estuche::Sin_Movimiento() const {
+    return !isVisible() || style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
 }
 
-void Estuche::Mostrar_Oculta() {
-    const Control antes = std::exchange(velada, {}).ficha;
-    const Image* imagen = Imagen_De(partida, antes);
-    if (imagen != nullptr) update(Lugar(*imagen).toAlignedRect());
+// How long it takes until the next move, milliseconds.
+int Estuche::Pausa() const {
+    return juego->Computadora_Juega() ? partida.Velocidad * CICLO : A_MANO;
 }
 
-// The drag
+// A chip that the computer moves glides, so that the person can follow it, and so does one of
+// either side that is hit.
+void Estuche::Mover_A_La_Vista(Control ficha, const Image& antes) {
+    if (juego == nullptr || Sin_Movimiento() || partida.Turno == NADIE) return;
+    const Image& ahora = *Imagen_De(partida, ficha);
+    const QPointF desde = Trazado::Esquina(antes);
+    const QPointF hasta = Trazado::Esquina(ahora);
+    const double lejos = std::hypot((hasta - desde).x(), (hasta - desde).y());
+    const int dura = Secuencia::Vuelo_Para(Pausa(), lejos);
+    const bool ajena = Bando_De(ficha).color != partida.Turno;
+    secuencia.Avanzar(reloj.elapsed());
+    if (ajena && ahora.Left < partida.Tablero[0].Left) {
+        secuencia.Comer(ficha, desde, hasta, std::min(dura, Secuencia::COMIDA));
+    } else if (!ajena && ficha.Nombre == Arreglo::Cafe && juego->Computadora_Juega()) {
+        secuencia.Volar(ficha, desde, hasta, dura);
+    } else {
+        secuencia.Terminar(ficha);
+    }
+    Animar();
+}
 
-void Estuche::Interrumpir() {
-    Cancelar_Arrastre();
-    Devolver();
+void Estuche::Animar() {
+    if (!secuencia.Quieta() && !latido.isActive()) latido.start(CUADRO);
+}
+
+void Estuche::Latir() {
+    const auto presentes = secuencia.Presentes();
+    for (const Control control : presentes) Tocar(control);
+    secuencia.Avanzar(reloj.elapsed());
+    for (const Control control : presentes) Tocar(control);
+    if (!secuencia.Quieta()) return;
+    latido.stop();
+    update(pintura.Area_De_Los_Dados());
+}
+
+void Estuche::Terminar_Movimientos() {
+    for (const Control control : secuencia.Presentes()) Tocar(control);
+    secuencia.Terminar();
+}
+
+// The hand
+
+void Estuche::Iniciar_Arrastre(Control ficha) {
+    Terminar_Movimientos();
+    mano.Iniciar(ficha);
+}
+
+void Estuche::Rechazar(Control ficha) {
+    secuencia.Avanzar(reloj.elapsed());
+    secuencia.Rechazar(ficha, Trazado::Esquina(*Imagen_De(partida, ficha)), Sin_Movimiento());
+    Tocar(ficha);
+    Animar();
+}
+
+void Estuche::Cancelar_Arrastre() {
+    mano.Cancelar();
+}
+
+// The place that a drop would be for now.
+void Estuche::Mirar_Bajo(Integer lugar) {
+    if (lugar == bajo_la_mano) return;
+    Lugares cambian;
+    for (const Integer cual : {bajo_la_mano, lugar}) {
+        if (cual != Mano::NINGUNO) cambian.set(static_cast<std::size_t>(cual));
+    }
+    bajo_la_mano = lugar;
+    Tocar_Luces(cambian & mano.Destinos());
 }
 
 void Estuche::hideEvent(QHideEvent* evento) {
     Interrumpir();
+    Terminar_Movimientos();
     QWidget::hideEvent(evento);
 }
 
 // A chip in the air lies beside the case, not on it, and goes where the case goes.
 void Estuche::moveEvent(QMoveEvent* evento) {
-    flotante.Acompanar(evento->pos() - evento->oldPos());
+    mano.Acompanar(evento->pos() - evento->oldPos());
 }
 
 void Estuche::mousePressEvent(QMouseEvent* evento) {
-    if (teclado.A_La_Vista()) Cancelar_Arrastre();
-    if (arrastre) return;
+    if (mano.Es(Mano::De::Teclas)) mano.Cancelar();
+    if (mano.Ocupada()) return;
     teclado.Ocultar();
-    pulsado = evento->position();
-    pulsada = Bajo(pulsado);
-    if (Recibe_Presiones(pulsada.Nombre)) emit presionada(pulsada, Boton_De(evento->button()));
-}
-
-// The game picks up the top chip of the stack that was pressed, held as if it were the one pressed.
-void Estuche::Iniciar_Arrastre(Control ficha) {
-    const Image* de_la_pulsada = Imagen_De(partida, pulsada);
-    const Image& imagen = *Imagen_De(partida, ficha);
-    const QPointF agarre =
-        pulsado - Lugar(de_la_pulsada != nullptr ? *de_la_pulsada : imagen).topLeft();
-    arrastre = Arrastre{ficha, agarre};
-    flotante.Aparecer(En_El_Aire(imagen), pos() + pulsado - agarre);
-    Ocultar(ficha, ATENUADA);
-    emit en_la_mano(ficha);
+    const Control pulsada = Bajo(evento->position());
+    if (!Recibe_Presiones(pulsada.Nombre)) return;
+    Mirar_Bajo(mano.Lugar_De(pulsada));
+    mano.Presionar(pulsada, Boton_De(evento->button()), evento->position(), Mano::De::Raton);
 }
 
 // What the keyboard holds is not the mouse's to move, to drop or to put back.
 void Estuche::mouseMoveEvent(QMouseEvent* evento) {
-    if (!arrastre || teclado.A_La_Vista()) {
+    if (!mano.Es(Mano::De::Raton)) {
         Actualizar_Puntero(evento->position());
     } else if (evento->buttons().testFlag(Qt::LeftButton)) {
-        Llevar(evento->position());
+        mano.Llevar(evento->position());
+        Mirar_Bajo(mano.Lugar_De(Bajo(evento->position())));
     } else {
-        Cancelar_Arrastre();
+        mano.Cancelar();
     }
 }
 
 void Estuche::mouseReleaseEvent(QMouseEvent* evento) {
-    const bool suelta = arrastre && !teclado.A_La_Vista();
-    if (suelta && evento->button() == Qt::LeftButton) Soltar(evento->position());
-    Actualizar_Puntero(evento->position());
+    const QPointF lugar = evento->position();
+    if (mano.Es(Mano::De::Raton) && evento->button() == Qt::LeftButton) {
+        mano.Soltar(rect().contains(lugar.toPoint()) ? Bajo(lugar) : Control{});
+    }
+    Actualizar_Puntero(lugar);
 }
-
-void Estuche::Llevar(QPointF a) {
-    flotante.Llevar(pos() + a - arrastre->agarre);
-}
-
-void Estuche::Soltar(QPointF lugar) {
-    Dejar(rect().contains(lugar.toPoint()) ? Bajo(lugar) : Control{});
-}
-
-// What the drop means is the game's to say. It may take the other side's whole turn to return, so
-// the board watches for the chip to move or for a box to open, whichever comes first.
-void Estuche::Dejar(Control destino) {
-    const Control ficha = arrastre->ficha;
-    arrastre.reset();
-    soltando = ficha;
-    if (destino.Nombre != Arreglo::Ninguno) emit soltada(destino, ficha);
-    if (soltando == ficha) Devolver();
-}
-
-void Estuche::Cancelar_Arrastre() {
-    if (!arrastre) return;
-    soltando = arrastre->ficha;
-    arrastre.reset();
-    Devolver();
-}
-
-void Estuche::Devolver() {
-    const Control ficha = std::exchange(soltando, Control{});
-    const Image* imagen = Imagen_De(partida, ficha);
-    if (imagen == nullptr) return;
-    emit en_la_mano({});
-    const int milisegundos = Sin_Movimiento() ? 0 : REGRESO;
-    flotante.Deslizar(pos() + Lugar(*imagen).topLeft(), milisegundos, [this, ficha] {
-        flotante.hide();
-        if (velada.ficha == ficha) Mostrar_Oculta();
-    });
-}
-
-// The keyboard
 
 // Tab is a key of the board; there is nothing else in the window that it could go to.
 bool Estuche::focusNextPrevChild(bool /*adelante*/) {
@@ -249,49 +287,46 @@ void Estuche::keyPressEvent(QKeyEvent* evento) {
 }
 
 void Estuche::focusOutEvent(QFocusEvent* evento) {
-    if (teclado.A_La_Vista()) Cancelar_Arrastre();
+    if (mano.Es(Mano::De::Teclas)) mano.Cancelar();
     QWidget::focusOutEvent(evento);
 }
 
-bool Estuche::Se_Puede_Tomar(Integer lugar) const {
-    return preguntas.se_puede_tomar(lugares::Tope(partida, lugar));
-}
+// The pointer and the mark
 
-void Estuche::Tomar(Control ficha) {
-    pulsada = ficha;
-    pulsado = Lugar(*Imagen_De(partida, ficha)).center();
-    emit presionada(ficha, Boton_De(Qt::LeftButton));
-}
-
-// A chip that moved by itself glides from its old place; its new place stays free until it comes.
-void Estuche::Volar(Control ficha, const Image& antes) {
-    const int milisegundos = preguntas.vuelo_de(ficha);
-    if (milisegundos <= 0 || arrastre || Sin_Movimiento()) return;
-    const Image& ahora = *Imagen_De(partida, ficha);
-    flotante.Aparecer(En_El_Aire(ahora), pos() + Lugar(antes).topLeft());
-    Ocultar(ficha, 0);
-    flotante.Deslizar(pos() + Lugar(ahora).topLeft(), milisegundos, [this, ficha] {
-        flotante.hide();
-        if (velada.ficha == ficha) Mostrar_Oculta();
-    });
-}
-
-// Whether the desktop asks for no animations.
-bool Estuche::Sin_Movimiento() const {
-    return style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
+bool Estuche::Piensa() const {
+    return juego != nullptr && juego->Computadora_Juega() && De_Quien_Es_El_Turno(partida) == CAFE;
 }
 
 // What lies under the pointer may have changed, or whose turn it is, without a move of the mouse.
-void Estuche::Renovar_Puntero() {
-    if (underMouse() && !arrastre) Actualizar_Puntero(mapFromGlobal(QCursor::pos()));
+void Estuche::Renovar() {
+    const Marcas ahora{De_Quien_Es_El_Turno(partida), Piensa(), partida.Dobles};
+    if (ahora != vistas) {
+        vistas = ahora;
+        update(pintura.Area_Del_Turno());
+        update(pintura.Area_De_Los_Dados());
+    }
+    const QPoint lugar = mapFromGlobal(QCursor::pos());
+    if (isVisible() && rect().contains(lugar)) Actualizar_Puntero(lugar);
 }
 
 void Estuche::Actualizar_Puntero(QPointF lugar) {
-    if (preguntas.se_puede_tomar(Bajo(lugar))) {
-        setCursor(mano);
+    if (mano.Es(Mano::De::Raton)) {
+        Poner_Puntero(cerrada);
+    } else if (Piensa()) {
+        Poner_Puntero(Qt::WaitCursor);
+    } else if (mano.Se_Puede_Tomar(Bajo(lugar))) {
+        Poner_Puntero(abierta);
     } else {
-        unsetCursor();
+        Poner_Puntero(Qt::ArrowCursor);
     }
+}
+
+// A dialog that was closed by a key has left the toolkit without knowing where the pointer is.
+void Estuche::Poner_Puntero(const QCursor& puntero) {
+    setCursor(puntero);
+    QWindow* ventana = window()->windowHandle();
+    if (!underMouse() && ventana != nullptr && window()->isActiveWindow())
+        ventana->setCursor(puntero);
 }
 
 }  // namespace corvanda

@@ -1,18 +1,19 @@
-// The board case on the screen. It draws the images as the state says, reports presses and drops of
-// chips, by mouse or keyboard, and shows a chip that is dragged or glides. It holds no rule and no
+// The board case on the screen. It draws the images as the state says, gives the hand (mano.h) what
+// the mouse and the keys do, and shows what moves by itself (secuencia.h). It holds no rule and no
 // copy of the state.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
-#include <functional>
-#include <optional>
 
+#include "core/juego.h"
 #include "core/pantalla.h"
-#include "ui/escala.h"
-#include "ui/ficha_flotante.h"
+#include "ui/mano.h"
 #include "ui/pintura.h"
+#include "ui/secuencia.h"
 #include "ui/teclado.h"
+#include "ui/trazado.h"
 
 namespace corvanda {
 
@@ -24,64 +25,39 @@ class Estuche final : public QWidget, public Pantalla {
     static constexpr double ANCHO = 9135;
     static constexpr double ALTO = 6075;
 
-    /// What the board asks the window about, because only the game knows.
-    struct Preguntas {
-        /// Whether a press on this chip would pick one up: the pointer shows it.
-        std::function<bool(Control)> se_puede_tomar = [](Control) { return false; };
-        /// How long a chip that has just moved by itself may glide, milliseconds; 0 not at all.
-        std::function<int(Control)> vuelo_de = [](Control) { return 0; };
-    };
-
     /// `fondo` is what the case lies on, and what a dragged chip may be dragged over.
     Estuche(const Partida& partida, Escala escala, Estampas& estampas, QWidget* fondo);
 
-    void Preguntar(Preguntas nuevas) { preguntas = std::move(nuevas); }
+    /// Whose board it is. Until then it only shows.
+    void Sentar(Juego& mesa);
 
     const Partida& Estado() const { return partida; }
-    bool Arrastrando() const { return arrastre.has_value(); }
-    /// The chip that is being dragged, Arreglo::Ninguno for none.
-    Control En_La_Mano() const { return arrastre ? arrastre->ficha : Control{}; }
+    /// Whether nothing moves by itself.
+    bool Quieto() const { return secuencia.Quieta(); }
+    bool Arrastrando() const { return mano.Ocupada(); }
     /// Whether the top chip of a place (see lugares.h) could be picked up now.
     bool Se_Puede_Tomar(Integer lugar) const;
 
+    const Mano& La_Mano() const { return mano; }
     /// Where the keyboard is, and what screen readers ask to be done.
     Teclado& Teclas() { return teclado; }
 
-    // What the keyboard does as a mouse would.
-
-    /// A press of the left button on a chip, held by its centre.
-    void Tomar(Control ficha);
-    /// The dragged chip is dropped; where nothing takes it, it goes back.
-    void Dejar(Control destino);
-    /// The dragged chip is brought to a place in this widget.
-    void Llevar(QPointF a);
-
     /// The window is blocked by a box or loses the mouse: a drag ends without effect, and a chip
     /// that was dropped and has not moved goes back.
-    void Interrumpir();
+    void Interrumpir() { mano.Interrumpir(); }
 
     /// Where an image is drawn, logical pixels in this widget.
-    QRectF Lugar(const Image& imagen) const { return pintura.Lugar(imagen); }
-    /// Where a place of the board is, logical pixels in this widget.
-    QRect Area(Integer lugar) const;
-    /// How thick each line of the keyboard's frame is, logical pixels.
-    int Grueso() const;
+    QRectF Lugar(const Image& imagen) const { return trazado.Lugar(imagen); }
+    const Trazado& Medidas() const { return trazado; }
 
     void Refrescar(Control control, const Image& antes) override;
     void Iniciar_Arrastre(Control ficha) override;
+    void Rechazar(Control ficha) override;
     void Cancelar_Arrastre() override;
 
   signals:
-    /// A mouse button (1 left, 2 right, 4 middle) was pressed on an enabled chip.
-    void presionada(Control ficha, Integer boton);
-    /// A dragged chip was dropped on an enabled image.
-    void soltada(Control destino, Control fuente);
     /// An image has changed.
     void cambiada(Control control);
-    /// The keyboard chose a place.
-    void elegido(Integer lugar);
-    /// A chip was picked up or, with Arreglo::Ninguno, put back.
-    void en_la_mano(Control ficha);
 
   protected:
     bool focusNextPrevChild(bool adelante) override;
@@ -95,42 +71,52 @@ class Estuche final : public QWidget, public Pantalla {
     void mouseReleaseEvent(QMouseEvent* evento) override;
 
   private:
-    struct Arrastre {
-        Control ficha;
-        QPointF agarre;  // from the chip's corner to the pointer
-    };
-
     Control Bajo(QPointF lugar) const;
-    FichaFlotante::Estampa En_El_Aire(const Image& imagen) const;
+    Pintura::Escena Escena() const;
+    void Tocar(Control control);
+    void Tocar_Luces(const Lugares& luces);
     void Refrescar_Pila_De(const Image& ficha);
-    void Soltar(QPointF lugar);
-    void Devolver();
-    void Volar(Control ficha, const Image& antes);
-    void Ocultar(Control ficha, qreal opacidad);
-    void Mostrar_Oculta();
-    void Actualizar_Puntero(QPointF lugar);
-    void Renovar_Puntero();
+    void Mirar_Bajo(Integer lugar);
+
     bool Sin_Movimiento() const;
+    int Pausa() const;
+    void Mover_A_La_Vista(Control ficha, const Image& antes);
+    void Animar();
+    void Latir();
+    void Terminar_Movimientos();
+
+    bool Piensa() const;
+    void Actualizar_Puntero(QPointF lugar);
+    void Poner_Puntero(const QCursor& puntero);
+    void Renovar();
     void Prepararse();
-    QCursor Hacer_Mano() const;
+    QCursor Hacer_Mano(const QString& nombre, Qt::CursorShape si_falta) const;
+
+    /// What is told beside the images.
+    struct Marcas {
+        Integer turno = NADIE;
+        bool piensa = false;
+        Byte dobles = 0;
+        bool operator==(const Marcas&) const = default;
+    };
 
     const Partida& partida;
     const Escala escala;
     Estampas& estampas;
-    Pintura pintura;
-    Preguntas preguntas;
-    FichaFlotante flotante;
-    Teclado teclado{*this};
-    QCursor mano;
+    const Trazado trazado{partida, escala, *this};
+    Pintura pintura{trazado, estampas};
+    Mano mano;
+    Teclado teclado{mano, trazado};
+    Secuencia secuencia;
+    Juego* juego = nullptr;
+    QCursor abierta, cerrada;
     qreal preparada = 0;  // the device pixel ratio that the hand and the pictures were made for
 
-    QTimer renovacion;  // of the pointer, once the handler that changed something has ended
-
-    std::optional<Arrastre> arrastre;
-    QPointF pulsado;         // where the button went down
-    Control pulsada;         // the chip it went down on
-    Control soltando;        // a chip dropped and not yet seen to have moved
-    Pintura::Velada velada;  // the chip whose image is dimmed because it is in the air
+    QTimer renovacion;    // of pointer and mark, once the handler that changed something has ended
+    QTimer latido;        // while something moves
+    QElapsedTimer reloj;  // of what moves
+    Marcas vistas;
+    Integer bajo_la_mano = Mano::NINGUNO;
 };
 
 }  // namespace corvanda

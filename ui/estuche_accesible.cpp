@@ -51,7 +51,9 @@ class Sitio final : public Parte, public QAccessibleActionInterface {
 
     QString text(QAccessible::Text cual) const override {
         if (cual == QAccessible::Name) return lugares::Nombre(Estado(), lugar);
-        return cual == QAccessible::Description ? lugares::Descripcion(lugar) : QString();
+        if (cual != QAccessible::Description) return {};
+        const bool abierto = estuche->La_Mano().Destinos()[static_cast<std::size_t>(lugar)];
+        return (abierto ? "Can be dropped here. " : "") + lugares::Descripcion(lugar);
     }
 
     QAccessible::State state() const override {
@@ -62,7 +64,7 @@ class Sitio final : public Parte, public QAccessibleActionInterface {
         estado.focused = estuche->hasFocus() && estuche->Teclas().A_La_Vista() &&
                          estuche->Teclas().Elegido() == lugar;
         estado.selectable = estuche->Se_Puede_Tomar(lugar);
-        estado.selected = tope.Nombre != Arreglo::Ninguno && estuche->En_La_Mano() == tope;
+        estado.selected = tope.Nombre != Arreglo::Ninguno && estuche->La_Mano().Ficha() == tope;
         return estado;
     }
 
@@ -89,7 +91,7 @@ class Sitio final : public Parte, public QAccessibleActionInterface {
     }
 
   private:
-    QRect Area() const override { return estuche->Area(lugar); }
+    QRect Area() const override { return estuche->Medidas().Area(lugar); }
 
     const Integer lugar;
 };

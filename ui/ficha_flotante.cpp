@@ -1,17 +1,10 @@
 #include "ui/ficha_flotante.h"
 
 #include <QPainter>
-#include <QRadialGradient>
 #include <cmath>
 #include <utility>
 
 namespace corvanda {
-
-namespace {
-
-constexpr int SOMBRA = 8;  // logical pixels around the chip for its shadow
-
-}  // namespace
 
 FichaFlotante::FichaFlotante(QWidget* fondo) : QWidget(fondo) {
     setObjectName("FichaFlotante");
@@ -24,20 +17,25 @@ FichaFlotante::FichaFlotante(QWidget* fondo) : QWidget(fondo) {
     hide();
 }
 
-void FichaFlotante::Aparecer(Estampa nueva, QPointF esquina) {
+void FichaFlotante::Aparecer(std::function<Estampa()> nueva, QPointF esquina) {
     Desaparecer();
-    estampa = std::move(nueva);
-    const QSizeF tamano = estampa().deviceIndependentSize();
-    resize(static_cast<int>(std::ceil(tamano.width())) + 2 * SOMBRA + 1,
-           static_cast<int>(std::ceil(tamano.height())) + 2 * SOMBRA + 1);
+    pedir = std::move(nueva);
+    Pedir();
     Llevar(esquina);
     raise();
     show();
 }
 
+void FichaFlotante::Pedir() {
+    estampa = pedir();
+    const QSizeF tamano = estampa.dibujo.deviceIndependentSize();
+    resize(static_cast<int>(std::ceil(tamano.width())) + 1,
+           static_cast<int>(std::ceil(tamano.height())) + 1);
+}
+
 void FichaFlotante::Llevar(QPointF esquina) {
     lugar = esquina;
-    const QPointF marco = esquina - QPointF(SOMBRA, SOMBRA);
+    const QPointF marco = esquina - estampa.margen;
     move(static_cast<int>(std::floor(marco.x())), static_cast<int>(std::floor(marco.y())));
     if (Resto() != resto) update();
 }
@@ -46,7 +44,7 @@ void FichaFlotante::Llevar(QPointF esquina) {
 // pixels, or it would blur.
 QPointF FichaFlotante::Resto() const {
     const qreal ratio = devicePixelRatioF();
-    const QPointF fraccion = (lugar - QPointF(SOMBRA, SOMBRA) - pos()) * ratio;
+    const QPointF fraccion = (lugar - estampa.margen - pos()) * ratio;
     return {std::round(fraccion.x()) / ratio, std::round(fraccion.y()) / ratio};
 }
 
@@ -80,22 +78,9 @@ void FichaFlotante::Llegar() {
 }
 
 void FichaFlotante::paintEvent(QPaintEvent* /*evento*/) {
-    QPainter pintor(this);
+    if (estampa.dibujo.devicePixelRatio() != devicePixelRatioF()) Pedir();
     resto = Resto();
-    const QPointF esquina = QPointF(SOMBRA, SOMBRA) + resto;
-    const QPixmap ficha = estampa();
-    const QSizeF tamano = ficha.deviceIndependentSize();
-    const QPointF centro(esquina.x() + tamano.width() / 2 + 2,
-                         esquina.y() + tamano.height() / 2 + 3);
-    const qreal radio = tamano.width() / 2 + 4;
-    QRadialGradient sombra(centro, radio);
-    sombra.setColorAt(0, QColor(0, 0, 0, 150));
-    sombra.setColorAt(0.75, QColor(0, 0, 0, 110));
-    sombra.setColorAt(1, Qt::transparent);
-    pintor.setPen(Qt::NoPen);
-    pintor.setBrush(sombra);
-    pintor.drawEllipse(centro, radio, radio);
-    pintor.drawPixmap(esquina, ficha);
+    QPainter(this).drawPixmap(resto, estampa.dibujo);
 }
 
 }  // namespace corvanda

@@ -1,6 +1,5 @@
-// A chip above everything else: one that a person drags, one that glides back to its place, or one
-// that glides to where the computer has moved it. It is drawing only and takes no mouse; the game
-// goes on without waiting for it.
+// A chip above everything else: one that a person holds, or one that glides back to its place. It
+// is drawing only and takes no mouse; the game goes on without waiting for it.
 #pragma once
 
 #include <QPixmap>
@@ -14,14 +13,18 @@ class FichaFlotante final : public QWidget {
     Q_OBJECT
 
   public:
+    /// A chip with its shadow, and how far its own corner is from that of the picture.
+    struct Estampa {
+        QPixmap dibujo;
+        QPointF margen;
+    };
+
     /// Lies on `fondo` and may go anywhere on it.
     explicit FichaFlotante(QWidget* fondo);
 
-    /// The chip for the screen that it is on now, which may change while it is in the air.
-    using Estampa = std::function<QPixmap()>;
-
-    /// Shows the chip with its top left corner at a place of `fondo`.
-    void Aparecer(Estampa nueva, QPointF esquina);
+    /// Shows the chip with its top left corner at a place of `fondo`. It is asked for again when
+    /// the screen under it has other pixels.
+    void Aparecer(std::function<Estampa()> nueva, QPointF esquina);
     void Llevar(QPointF esquina);
     /// What it lies over has moved, and its way with it.
     void Acompanar(QPointF paso);
@@ -36,8 +39,10 @@ class FichaFlotante final : public QWidget {
 
   private:
     void Llegar();
+    void Pedir();
     QPointF Resto() const;
 
+    std::function<Estampa()> pedir;
     Estampa estampa;
     QPointF resto;  // as it was painted last
     QPointF lugar;

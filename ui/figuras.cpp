@@ -74,7 +74,7 @@ void Dibujar_Figura(QPainter& pintor, const QString& nombre, const QRectF& lugar
         Dado(pintor, lugar, nombre.mid(4, 1).toInt(), cafe ? MARFIL : NOGAL);
     } else if (nombre.startsWith("turno")) {
         Rombo(pintor, lugar);
-    } else if (nombre.startsWith("disco") || nombre == "blanca" || nombre == "cafe") {
+    } else if (nombre.startsWith("disco")) {
         Ficha(pintor, lugar, cafe ? MADERA : NOGAL);
     } else {
         pintor.drawRect(lugar);

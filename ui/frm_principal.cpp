@@ -8,9 +8,9 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "ui/estuche_accesible.h"
 #include "ui/form1.h"
 #include "ui/frm_volado.h"
-#include "ui/paleta.h"
 
 namespace corvanda {
 
@@ -19,18 +19,15 @@ namespace {
 constexpr double ANCHO = 10215;  // twips, inside the frame and below the menus
 constexpr double ALTO = 6495;
 constexpr Integer TECLA_F1 = 112;
-constexpr int CICLO = 10;             // milliseconds of one cycle of the computer's pause
-constexpr int VUELO_MAS_LARGO = 200;  // milliseconds
-constexpr int PAUSA_SIN_VUELO = 60;   // a shorter pause leaves no time to follow a chip
-constexpr int AIRE_DEL_TITULO = 12;   // logical pixels a title bar has above and below its letters
+constexpr double SOMBRA = 300;       // twips that the shadow of the case reaches
+constexpr int AIRE_DEL_TITULO = 12;  // logical pixels a title bar has above and below its letters
 
-QWidget* Hacer_Fondo(QWidget* ventana) {
-    auto* fondo = new QWidget(ventana);
-    QPalette colores = fondo->palette();
-    colores.setColor(QPalette::Window, paleta::ROJO_OSCURO);
-    fondo->setPalette(colores);
-    fondo->setAutoFillBackground(true);
-    return fondo;
+// Before anything is told of the board, or it would be described as any other control.
+Estuche* Hacer_Estuche(const Partida& partida, Escala escala, Estampas& estampas, Fondo& fondo) {
+    EstucheAccesible::Instalar();
+    auto* estuche = new Estuche(partida, escala, estampas, &fondo);
+    fondo.Poner(*estuche, qRound(escala.Pixeles(SOMBRA)));
+    return estuche;
 }
 
 // What the desktop puts around a window that fills the screen: a title bar, and at the sides a line
@@ -71,8 +68,8 @@ FrmPrincipal::FrmPrincipal(Partida& partida, const Servicios& servicios, Escala 
       servicios(servicios),
       escala(escala),
       estampas(estampas),
-      fondo(Hacer_Fondo(this)),
-      estuche(new Estuche(partida, escala, estampas, fondo)),
+      fondo(new Fondo(this)),
+      estuche(Hacer_Estuche(partida, escala, estampas, *fondo)),
       voz(new Voz(fondo)),
       locutor(*estuche, *voz),
       menus(*menuBar()),
@@ -84,7 +81,7 @@ FrmPrincipal::FrmPrincipal(Partida& partida, const Servicios& servicios, Escala 
     fondo->installEventFilter(this);
     estuche->setFocus();
     Conectar_Menus();
-    Conectar_Tablero();
+    estuche->Sentar(juego);
 }
 
 void FrmPrincipal::Conectar_Menus() {
@@ -105,41 +102,6 @@ void FrmPrincipal::Conectar_Menus() {
         QAction* entrada = menus.mnuLev.at(static_cast<std::size_t>(marca));
         connect(entrada, &QAction::triggered, this, [this, marca] { mnuLev_Click(marca); });
     }
-}
-
-void FrmPrincipal::Conectar_Tablero() {
-    connect(estuche, &Estuche::presionada, this, [this](Control ficha, Integer boton) {
-        if (ficha.Nombre == Arreglo::Blanca) {
-            juego.Blanca_MouseDown(ficha.Index, boton);
-        } else {
-            juego.Cafe_MouseDown(ficha.Index, boton);
-        }
-    });
-    connect(estuche, &Estuche::soltada, this, [this](Control destino, Control fuente) {
-        switch (destino.Nombre) {
-            case Arreglo::Triangle:
-                return juego.Triangle_DragDrop(destino.Index, fuente);
-            case Arreglo::Blanca:
-                return juego.Blanca_DragDrop(destino.Index, fuente);
-            case Arreglo::Cafe:
-                return juego.Cafe_DragDrop(destino.Index, fuente);
-            case Arreglo::Adios:
-                return juego.Adios_DragDrop(destino.Index, fuente);
-            default:
-                break;  // the board halves and the dice take no drops
-        }
-    });
-    estuche->Preguntar({[this](Control ficha) { return juego.Se_Puede_Tomar(ficha); },
-                        [this](Control ficha) { return Vuelo_De(ficha); }});
-}
-
-// A chip that the computer moves glides, so that the person can follow it: never longer than half
-// the pause before the next move.
-int FrmPrincipal::Vuelo_De(Control ficha) const {
-    if (!juego.Computadora_Juega() || ficha.Nombre != Arreglo::Cafe) return 0;
-    const int pausa = partida.Velocidad * CICLO;
-    if (pausa < PAUSA_SIN_VUELO) return 0;
-    return std::min(VUELO_MAS_LARGO, pausa / 2);
 }
 
 // Start-up

@@ -13,6 +13,7 @@
 #include "ui/escala.h"
 #include "ui/estampas.h"
 #include "ui/estuche.h"
+#include "ui/fondo.h"
 #include "ui/locutor.h"
 #include "ui/menus.h"
 #include "ui/voz.h"
@@ -93,18 +94,16 @@ class FrmPrincipal final : public QMainWindow, private Volado {
     void Mostrar() override;
     void Mostrar_Ventana();
     void Conectar_Menus();
-    void Conectar_Tablero();
     void Poner_Icono();
     void Form_Resize();
     void Form_KeyDown(Integer KeyCode);
     void Pedir_Ayuda(Integer comando);
-    int Vuelo_De(Control ficha) const;
 
     Partida& partida;
     const Servicios servicios;
     const Escala escala;
     Estampas& estampas;
-    QWidget* fondo;
+    Fondo* fondo;
     Estuche* estuche;
     Voz* voz;
     Locutor locutor;

@@ -22,8 +22,8 @@ Locutor::Locutor(Estuche& estuche, Voz& voz)
     mirada.setSingleShot(true);
     connect(&mirada, &QTimer::timeout, this, &Locutor::Mirar);
     connect(&estuche, &Estuche::cambiada, this, &Locutor::Cambiada);
-    connect(&estuche, &Estuche::elegido, this, &Locutor::Elegido);
-    connect(&estuche, &Estuche::en_la_mano, this, &Locutor::En_La_Mano);
+    connect(&estuche.Teclas(), &Teclado::elegida, this, &Locutor::Elegido);
+    connect(&estuche.La_Mano(), &Mano::en_la_mano, this, &Locutor::En_La_Mano);
     QAccessible::installActivationObserver(this);
     accessibilityActiveChanged(QAccessible::isActive());
 }

@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
+#include "core/bandos.h"
+
 namespace corvanda::lugares {
 
 namespace {
 
 constexpr int COLUMNAS = 14;
-constexpr Integer EN_CASA = 6;  // points of a home board
 
 bool Es_Barra(Integer lugar) {
     return lugar == BARRA_CAFE || lugar == BARRA_BLANCA;
@@ -30,12 +31,10 @@ QRectF Area(const Image& imagen) {
 
 // Where a chip is put that was hit, whether one lies there or not.
 QRectF Area_De_Barra(const Partida& partida, Integer lugar) {
-    const QRectF mitad = Area(partida.Tablero[0]);
-    QRectF area = Area(lugar == BARRA_BLANCA ? partida.Blanca[0] : partida.Cafe[0]);
-    const double top = lugar == BARRA_BLANCA
-                           ? mitad.height() / 2 - 1.5 * Area(partida.Cafe[0]).height()
-                           : static_cast<double>(partida.Triangle[23].Top);
-    area.moveTo(mitad.left() - area.width(), top);
+    const corvanda::Bando& bando = Bando_De(lugar == BARRA_BLANCA ? BLANCA : CAFE);
+    const Esquina esquina = Esquina_De_Barra(partida, bando);
+    QRectF area = Area(*Imagen_De(partida, {bando.fichas, 0}));
+    area.moveTo(static_cast<double>(esquina.Left), static_cast<double>(esquina.Top));
     return area;
 }
 
@@ -94,6 +93,43 @@ Control Blanco(const Partida& partida, Integer lugar) {
     return Imagen_De(partida, bandeja)->Visible ? bandeja : Control{};
 }
 
+Integer Siguiente(const Lugares& entre, Integer lugar, Integer color, int paso) {
+    const corvanda::Bando& bando = Bando_De(color);
+    // How many of a side's steps lie behind a place, its own bar being the first.
+    const auto avance = [&](Integer cual) {
+        if (cual == bando.bandeja) return PUNTOS + 1;
+        if (!Es_Punto(cual)) return 0;
+        return color == BLANCA ? cual + 1 : PUNTOS - cual;
+    };
+    const int vuelta = PUNTOS + 2;
+    Integer mejor = lugar;
+    int menor = vuelta + 1;
+    for (Integer cual = 0; cual < CUANTOS; ++cual) {
+        if (!entre[static_cast<std::size_t>(cual)] || cual == lugar) continue;
+        const int lejos = ((avance(cual) - avance(lugar)) * paso + vuelta) % vuelta;
+        if (lejos >= menor) continue;
+        menor = lejos;
+        mejor = cual;
+    }
+    return mejor;
+}
+
+QPointF Caida(const Partida& partida, Integer lugar) {
+    if (!Es_Punto(lugar)) {
+        const corvanda::Bando& bando = Bando_De(lugar == BANDEJA_BLANCA ? BLANCA : CAFE);
+        const Image& bandeja = *Imagen_De(partida, {Arreglo::Adios, bando.adios});
+        const Image& ficha = *Imagen_De(partida, {bando.fichas, 0});
+        return {static_cast<double>(bandeja.Left + (bandeja.Width - ficha.Width) / 2),
+                static_cast<double>(bandeja.Top + partida.*bando.altura)};
+    }
+    // A lone chip of the other side makes room.
+    const bool sola =
+        Pila_En(partida, lugar).Cuenta() == 1 && Punto_En(partida, lugar).Owner == -partida.Turno;
+    const double top = sola ? static_cast<double>(Imagen_De(partida, Tope(partida, lugar))->Top)
+                            : static_cast<double>(Punto_En(partida, lugar).Y);
+    return {static_cast<double>(partida.Triangle.at(static_cast<std::size_t>(lugar)).Left), top};
+}
+
 QString Nombre(const Partida& partida, Integer lugar) {
     const int cuantas = Pila_En(partida, lugar).Cuenta();
     if (Es_Punto(lugar)) {
@@ -109,8 +145,8 @@ QString Nombre(const Partida& partida, Integer lugar) {
 QString Descripcion(Integer lugar) {
     if (!Es_Punto(lugar)) return "At the left edge";
     QString fila = lugar < 12 ? "Top row" : "Bottom row";
-    const bool de_cafe = lugar < EN_CASA;
-    if (!de_cafe && lugar < PUNTOS - EN_CASA) return fila;
+    const bool de_cafe = lugar < PUNTOS_DE_CASA;
+    if (!de_cafe && lugar < PUNTOS - PUNTOS_DE_CASA) return fila;
     const int pasos = de_cafe ? lugar + 1 : PUNTOS - lugar;
     return QString("%1, %2's home board, %3 to the tray")
         .arg(fila, Bando(de_cafe ? CAFE : BLANCA),

@@ -9,6 +9,7 @@
 // home points it is also told how many steps lead from there to the tray.
 #pragma once
 
+#include <QPointF>
 #include <QRectF>
 #include <QString>
 
@@ -31,6 +32,13 @@ Control Tope(const Partida& partida, Integer lugar);
 /// The image that a drop on a place is for, Arreglo::Ninguno where nothing takes a chip: on the
 /// bars, and on a tray that is closed.
 Control Blanco(const Partida& partida, Integer lugar);
+
+/// The next of some places on the way of a side's chips, or back on it: from its bar over the
+/// points to its tray and round again; `lugar` itself when there is no other.
+Integer Siguiente(const Lugares& entre, Integer lugar, Integer color, int paso);
+
+/// Where the next chip put on a point or tray comes to lie: its upper left corner, twips.
+QPointF Caida(const Partida& partida, Integer lugar);
 
 /// "Point 6, 5 brown chips", "White's bar, empty", "Brown's tray, closed".
 QString Nombre(const Partida& partida, Integer lugar);

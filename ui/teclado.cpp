@@ -1,8 +1,5 @@
 #include "ui/teclado.h"
 
-#include <algorithm>
-
-#include "ui/estuche.h"
 #include "ui/lugares.h"
 
 namespace corvanda {
@@ -15,11 +12,16 @@ constexpr int HASTA_EL_FIN = 99;  // columns, more than there are
 
 bool Teclado::Tecla(const QKeyEvent& evento) {
     if (evento.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) return false;
-    if (estuche.Arrastrando() && !a_la_vista) return false;
+    if (mano.Es(Mano::De::Raton)) return false;
     const bool primera = !a_la_vista;
     const auto hacer = [&](auto que) {
         if (primera) Elegir(elegido);
         if (!primera) que();
+        return true;
+    };
+    const auto pasar = [&](int paso) {
+        if (!primera || !Se_Puede_Tomar(elegido)) Siguiente(paso);
+        if (primera) Elegir(elegido);
         return true;
     };
     switch (evento.key()) {
@@ -36,9 +38,9 @@ bool Teclado::Tecla(const QKeyEvent& evento) {
         case Qt::Key_End:
             return hacer([this] { Ir(HASTA_EL_FIN, 0); });
         case Qt::Key_Tab:
-            return hacer([this] { Siguiente(1); });
+            return pasar(1);
         case Qt::Key_Backtab:
-            return hacer([this] { Siguiente(-1); });
+            return pasar(-1);
         case Qt::Key_Space:
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -54,52 +56,70 @@ void Teclado::Ir(int columnas, int filas) {
     Elegir(lugares::Vecino(elegido, columnas, filas));
 }
 
-// With free hands the next place with a chip that may be taken now, else just the next one.
-void Teclado::Siguiente(int paso) {
+bool Teclado::Se_Puede_Tomar(Integer lugar) const {
+    return mano.Se_Puede_Tomar(lugares::Tope(Estado(), lugar));
+}
+
+// The next place with a chip that may be taken now, else just the next one.
+Integer Teclado::Siguiente_Ficha(int paso) const {
     const auto a = [&](int pasos) {
         const int lugar = elegido + paso * pasos + lugares::CUANTOS;
         return static_cast<Integer>(lugar % lugares::CUANTOS);
     };
     int pasos = 1;
-    if (!estuche.Arrastrando()) {
-        while (pasos < lugares::CUANTOS && !estuche.Se_Puede_Tomar(a(pasos))) ++pasos;
-        if (pasos == lugares::CUANTOS && !estuche.Se_Puede_Tomar(elegido)) pasos = 1;
-    }
-    Elegir(a(pasos));
+    while (pasos < lugares::CUANTOS && !Se_Puede_Tomar(a(pasos))) ++pasos;
+    if (pasos == lugares::CUANTOS && !Se_Puede_Tomar(elegido)) pasos = 1;
+    return a(pasos);
+}
+
+// With a chip in the hand the next place that takes it, on its side's way.
+void Teclado::Siguiente(int paso) {
+    Elegir(mano.Ocupada() ? lugares::Siguiente(mano.Destinos(), elegido, Estado().Turno, paso)
+                          : Siguiente_Ficha(paso));
 }
 
 void Teclado::Elegir(Integer lugar) {
-    if (estuche.Arrastrando() && !a_la_vista) return;
-    estuche.update(Marco());
+    if (mano.Es(Mano::De::Raton)) return;
+    emit tocado(Marco());
     elegido = lugar;
     a_la_vista = true;
-    estuche.update(Marco());
+    emit tocado(Marco());
     Llevar();
-    emit estuche.elegido(lugar);
+    emit elegida(lugar);
 }
 
 void Teclado::Pulsar() {
     if (!a_la_vista) return;
-    if (estuche.Arrastrando()) {
-        estuche.Dejar(lugares::Blanco(estuche.Estado(), elegido));
+    if (mano.Ocupada()) {
+        mano.Soltar(lugares::Blanco(Estado(), elegido));
     } else {
-        const Control tope = lugares::Tope(estuche.Estado(), elegido);
-        if (tope.Nombre != Arreglo::Ninguno) estuche.Tomar(tope);
+        const Control tope = lugares::Tope(Estado(), elegido);
+        if (tope.Nombre == Arreglo::Ninguno) return;
+        const QPointF medio = trazado.Lugar(*Imagen_De(Estado(), tope)).center();
+        mano.Presionar(tope, LeftButton, medio, Mano::De::Teclas);
         Llevar();
     }
 }
 
-// Over the tip of a point the chip covers none that stands there.
+// The chip is held outside the place, over the rim of the case: there it covers no chip, no die and
+// nothing of the place but the middle of a line of the frame.
 void Teclado::Llevar() {
-    if (!estuche.Arrastrando()) return;
+    if (!mano.Es(Mano::De::Teclas)) return;
     const QRectF marco(Marco());
+    const double radio = trazado.Pixeles(Trazado::DISCO) / 2;
     QPointF a = marco.center();
-    if (Es_Punto(elegido)) a.setY(elegido < PUNTOS / 2 ? marco.bottom() : marco.top());
-    estuche.Llevar(a);
+    if (!Es_Punto(elegido)) {
+        a.setX(marco.left() - radio);
+    } else if (elegido < PUNTOS / 2) {
+        a.setY(marco.top() - radio);
+    } else {
+        a.setY(marco.bottom() + radio);
+    }
+    mano.Llevar(a);
 }
 
 void Teclado::Ocultar() {
-    if (a_la_vista) estuche.update(Marco());
+    if (a_la_vista) emit tocado(Marco());
     a_la_vista = false;
 }
 
@@ -107,7 +127,7 @@ void Teclado::Ocultar() {
 void Teclado::Pintar(QPainter& pintor) const {
     if (!a_la_vista) return;
     const QRect marco = Marco();
-    const int grueso = estuche.Grueso();
+    const int grueso = trazado.Grueso();
     const auto linea = [&](const QRect& por_fuera, const QColor& color) {
         const QRect por_dentro = por_fuera.adjusted(grueso, grueso, -grueso, -grueso);
         pintor.save();
@@ -117,11 +137,6 @@ void Teclado::Pintar(QPainter& pintor) const {
     };
     linea(marco, Qt::black);
     linea(marco.adjusted(grueso, grueso, -grueso, -grueso), Qt::white);
-}
-
-QRect Teclado::Marco() const {
-    const int grueso = 2 * estuche.Grueso();
-    return estuche.Area(elegido).adjusted(-grueso, -grueso, grueso, grueso);
 }
 
 }  // namespace corvanda

@@ -1,23 +1,25 @@
 // The board played from the keyboard: which place is chosen, the frame that shows it, and what the
-// keys do there. It presses and drops through the board as the mouse does and knows no rule.
+// keys do there. It presses and drops with the hand as the mouse does and knows no rule.
 //
-// Nothing is shown until one of its keys is pressed, and the first one only shows the frame. A
-// press of the mouse on the board takes it away again. What screen readers ask for comes here, too.
+// Nothing is shown until one of its keys is pressed, and the first one only shows the frame, but
+// for Tab, which at once goes to a chip that may be taken. A press of the mouse on the board takes
+// the frame away again. What screen readers ask for comes here, too.
 #pragma once
 
 #include <QKeyEvent>
+#include <QObject>
 #include <QPainter>
 
-#include "runtime/types.h"
+#include "ui/mano.h"
+#include "ui/trazado.h"
 
 namespace corvanda {
 
-class Estuche;
+class Teclado final : public QObject {
+    Q_OBJECT
 
-class Teclado {
   public:
-    /// A part of the board, which it may call when that is complete.
-    explicit Teclado(Estuche& estuche) : estuche(estuche) {}
+    Teclado(Mano& mano, const Trazado& trazado) : mano(mano), trazado(trazado) {}
 
     /// Whether the key was one for the board; what it asked for is done.
     bool Tecla(const QKeyEvent& evento);
@@ -35,13 +37,23 @@ class Teclado {
 
     void Pintar(QPainter& pintor) const;
 
+  signals:
+    /// A place was chosen.
+    void elegida(Integer lugar);
+    /// What the frame covers has to be painted.
+    void tocado(QRect area);
+
   private:
+    const Partida& Estado() const { return trazado.Estado(); }
     void Ir(int columnas, int filas);
     void Siguiente(int paso);
+    Integer Siguiente_Ficha(int paso) const;
+    bool Se_Puede_Tomar(Integer lugar) const;
     void Llevar();
-    QRect Marco() const;
+    QRect Marco() const { return trazado.Marco(elegido); }
 
-    Estuche& estuche;
+    Mano& mano;
+    const Trazado& trazado;
     Integer elegido = 0;
     bool a_la_vista = false;
 };

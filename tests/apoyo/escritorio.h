@@ -98,11 +98,13 @@ class Escritorio final : public MessageBoxes,
         refrescados.push_back(control);
     }
     void Iniciar_Arrastre(Control ficha) override;
+    void Rechazar(Control ficha) override { rechazada = ficha; }
     void Cancelar_Arrastre() override { arrastrada = {}; }
 
     Puertos Todos() { return {*this, *this, *this, *this, *this, *this, *this}; }
 
     bool reloj_de_arena = false;  ///< the pointer's shape now
+    Control rechazada;            ///< the chip whose press was last refused by a sound alone
     Control arrastrada;           ///< the chip being dragged, Ninguno for none
 
   private:

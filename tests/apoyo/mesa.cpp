@@ -23,8 +23,7 @@ Mesa::Mesa(const std::string& posicion, Oponente* computadora)
 
 Control Mesa::Presionar(Control ficha, Integer boton) {
     escritorio.arrastrada = {};
-    if (ficha.Nombre == Arreglo::Blanca) juego.Blanca_MouseDown(ficha.Index, boton);
-    if (ficha.Nombre == Arreglo::Cafe) juego.Cafe_MouseDown(ficha.Index, boton);
+    juego.MouseDown(ficha, boton);
     return escritorio.arrastrada;
 }
 

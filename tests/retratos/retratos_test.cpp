@@ -31,6 +31,7 @@ void Retratar_Aqui(const char* nombre, const QImage& imagen) {
 
 /// The board as it stands on the screen, which is not all painted anew.
 void Retratar_Tablero(const char* nombre, Ventana& v) {
+    ASSERT_TRUE(QTest::qWaitFor([&] { return v.frm.Tablero().Quieto(); }));
     QCoreApplication::processEvents();
     const Estuche& tablero = v.frm.Tablero();
     const QRect lugar(tablero.mapTo(&v.frm, QPoint()), tablero.size());
@@ -71,12 +72,11 @@ TEST(Retratos, the_board_without_its_pictures) {
     Estampas estampas("/nonexistent");
     Ventana v;
     v.Poner("B 11x5 18x6 | C 0x3 5x2 23x2 | dice 6 5");
-    const Pintura::Velada nada;
     Estuche& tablero = v.frm.Tablero();
-    Pintura pintura(v.partida, Escala(), estampas, tablero);
+    Pintura pintura(tablero.Medidas(), estampas);
     QImage hoja(tablero.size(), QImage::Format_RGB32);
     QPainter pintor(&hoja);
-    pintura.Pintar(pintor, tablero.rect(), nada);
+    pintura.Pintar(pintor, tablero.rect(), {}, {});
     Retratar_Aqui("board_plain", hoja);
 }
 

@@ -103,15 +103,15 @@ struct Pintado final : QObject {
 
 TEST(Pintado_Del_Tablero, a_change_repaints_what_it_touched_and_rest_repaints_nothing) {
     Ventana v;
-    v.Poner("B 0x2 11x2 16x3 18x5 | C 5x5 7x3 12x5 15x1 23x1 | dice 4 4");
+    v.Poner("B 0x2 11x2 16x3 18x5 | dice 4 2");
     Estuche& estuche = v.frm.Tablero();
     QTest::qWait(50);
     Pintado pintado;
     estuche.installEventFilter(&pintado);
     QRegion esperada;
     const auto tocar = [&] {
-        for (const Control control : {Control{Arreglo::Blanca, 3}, Control{Arreglo::Cafe, 13}})
-            esperada += estuche.Lugar(*Imagen_De(v.partida, control)).toAlignedRect();
+        for (const Control control : {Control{Arreglo::Blanca, 3}, Control{Arreglo::Dado, 0}})
+            esperada += estuche.Medidas().Huella(*Imagen_De(v.partida, control));
     };
     tocar();
     v.partida.Origen = 11;

@@ -54,7 +54,8 @@ QImage Dibujar(const Lamina& lamina, Estampas& estampas) {
     const Escala escala;
     const Lienzo lienzo(escala, RATIO * lamina.tamano);
     const double ratio = lienzo.devicePixelRatioF();
-    Pintura pintura(partida, escala, estampas, lienzo);
+    const Trazado trazado(partida, escala, lienzo);
+    Pintura pintura(trazado, estampas);
     const double por_twip = ratio / RATIO / escala.Twips_Por_Pixel();
     QImage hoja = Hoja(lamina.recorte.size() * por_twip, Qt::black);
 
@@ -64,7 +65,7 @@ QImage Dibujar(const Lamina& lamina, Estampas& estampas) {
     hoja.setDevicePixelRatio(ratio);
     QPainter pintor(&hoja);
     pintor.translate(-entera / ratio);
-    pintura.Pintar(pintor, QRectF(lienzo.rect()), {});
+    pintura.Pintar(pintor, QRectF(lienzo.rect()), {}, {});
     pintor.end();
 
     hoja.setDevicePixelRatio(RATIO);
