@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <cmath>
+#include <cstring>
 #include <memory>
 
 namespace corvanda::wave {
@@ -64,6 +66,22 @@ std::optional<Samples> ReadWaveFile(const QString& file) {
     const QByteArray bytes = ReadBytes(file);
     const auto decoded = Decode(bytes);
     return decoded ? Convert(*decoded) : std::nullopt;
+}
+
+Samples Signal() {
+    constexpr int frames = Rate * 15 / 100;
+    constexpr double pitch = 587;  // hertz
+    constexpr double loudness = 9000;
+    constexpr double rise = Rate / 100.0;  // frames; without it the tone would tick
+    std::vector<std::int16_t> values;
+    for (int i = 0; i < frames; ++i) {
+        const double swell = std::min({1.0, i / rise, (frames - i) / (5 * rise)});
+        const double value = loudness * swell * std::sin(2 * M_PI * pitch * i / Rate);
+        values.insert(values.end(), Channels, static_cast<std::int16_t>(value));
+    }
+    Samples samples(values.size() * sizeof values[0]);
+    std::memcpy(samples.data(), values.data(), samples.size());
+    return samples;
 }
 
 }  // namespace corvanda::wave

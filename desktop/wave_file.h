@@ -22,4 +22,7 @@ using Samples = std::vector<std::uint8_t>;
 /// become longer than about twelve minutes.
 std::optional<Samples> ReadWaveFile(const QString& file);
 
+/// A short tone of our own, for what has no file.
+Samples Signal();
+
 }  // namespace corvanda::wave

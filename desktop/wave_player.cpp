@@ -1,6 +1,7 @@
 #include "desktop/wave_player.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <utility>
 
 #include "desktop/program_folder.h"
@@ -11,6 +12,9 @@ namespace corvanda {
 namespace {
 
 constexpr std::chrono::milliseconds patience_for_count{1500};
+constexpr std::chrono::milliseconds one_look{5};
+constexpr auto without_people =
+    QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers;
 
 }  // namespace
 
@@ -34,8 +38,9 @@ WaveWorker& SdlWaveOut::Worker() {
 }
 
 void SdlWaveOut::LookForDevices() {
-    if (!asked) Worker().CountDevices();
-    asked = true;
+    if (asked_at != Clock::time_point{}) return;
+    Worker().CountDevices();
+    asked_at = Clock::now();
 }
 
 void SdlWaveOut::sndPlaySound(const std::string& path) {
@@ -44,11 +49,18 @@ void SdlWaveOut::sndPlaySound(const std::string& path) {
 
 unsigned SdlWaveOut::waveOutGetNumDevs() {
     LookForDevices();
-    return Worker().WaitForCount(patience_for_count).value_or(0);
+    std::optional<unsigned> count;
+    do {
+        // What was drawn before comes to the screen, however long the server takes.
+        QCoreApplication::processEvents(without_people);
+        count = Worker().WaitForCount(one_look);
+    } while (!count && Clock::now() < asked_at + patience_for_count);
+    return count.value_or(0);
 }
 
+// No file has an empty name, so this is the signal.
 void SdlWaveOut::Beep() {
-    beep();
+    Worker().Play({});
 }
 
 void SdlWaveOut::SystemBeep() {

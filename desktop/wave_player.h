@@ -5,7 +5,9 @@
 // the main window's start-up, GUI thread only.
 //
 // A file that is missing, unreadable, larger than 32 MiB, damaged or of an unknown coding is
-// replaced by the system beep. A device that cannot be opened is silence.
+// replaced by the beep: a short signal through the same device, because the toolkit's own is silent
+// on many desktops. Where no device can be opened the toolkit's is all there is, and files are
+// silence.
 #pragma once
 
 #include <QObject>
@@ -31,7 +33,7 @@ struct WavePatience {
 class SdlWaveOut final : public WaveOut {
   public:
     /// `folder` is the program's folder as App::Path gives it; sounds are addressed below it.
-    /// `beep` sounds the system beep, always in the GUI thread.
+    /// `beep` sounds the toolkit's beep, always in the GUI thread.
     explicit SdlWaveOut(std::string folder, std::function<void()> beep = SystemBeep,
                         WavePatience patience = {});
     /// Cuts off what still plays. A worker that the sound server does not let go in time is left
@@ -46,19 +48,21 @@ class SdlWaveOut final : public WaveOut {
 
     void sndPlaySound(const std::string& path) override;
     /// Counts the devices, once in a run. A server that does not answer within a second and a half
-    /// counts as none.
+    /// of the first question counts as none; meanwhile windows are drawn, but no input is handled.
     unsigned waveOutGetNumDevs() override;
     void Beep() override;
 
   private:
+    using Clock = std::chrono::steady_clock;
+
     static void SystemBeep();
     WaveWorker& Worker();
 
     std::string folder;
     std::function<void()> beep;
     const WavePatience patience;
-    bool asked = false;  ///< for the number of devices
-    QObject ear;         ///< receives the worker's wish for a beep in the GUI thread
+    Clock::time_point asked_at{};  ///< for the number of devices; the epoch while nobody has
+    QObject ear;                   ///< receives the worker's wish for a beep in the GUI thread
     std::shared_ptr<WaveWorker> worker;
     std::jthread thread;
 };

@@ -42,7 +42,7 @@ void WaveWorker::Do(const Task& todo, WaveDevice& device) {
     if (!todo.sound) return;
     if (auto samples = wave::ReadWaveFile(*todo.sound)) {
         device.Play(std::move(*samples));
-    } else {
+    } else if (!device.Play(wave::Signal())) {
         AskForBeep();
     }
 }

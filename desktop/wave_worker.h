@@ -32,6 +32,8 @@ class WaveWorker {
     /// possible.
     void Run(const std::stop_token& stop);
 
+    /// A file that cannot be played is replaced by the signal, and that by the system beep where no
+    /// device plays.
     void Play(const QString& file);
     void CountDevices();
     /// The number of devices, or nothing when it is not known in time. CountDevices must have been

@@ -155,9 +155,11 @@ TEST_F(WaveTest, the_device_is_given_back_when_it_was_quiet_and_opened_again) {
     EXPECT_TRUE(Comes([&] { return Threads() == threads; })) << "ends in the middle of a sound";
 }
 
-TEST_F(WaveTest, a_file_that_cannot_be_played_is_a_beep_and_no_device_is_silence) {
+TEST_F(WaveTest,
+       a_file_that_cannot_be_played_is_a_tone_or_the_toolkits_beep_and_no_device_is_silence) {
     WriteBytes(folder.filePath("Sonidos/damaged.Wav"), "RIFFxxxxWAVE");
-    const std::pair<const char*, unsigned> drivers[] = {{"dummy", 1}, {"no such driver", 0}};
+    const wave::Samples tone = wave::Signal();
+    const std::pair<const char*, unsigned> drivers[] = {{"disk", 1}, {"no such driver", 0}};
     for (const auto& [driver, devices] : drivers) {
         Set("SDL_AUDIODRIVER", driver);
         beeps = 0;
@@ -165,9 +167,14 @@ TEST_F(WaveTest, a_file_that_cannot_be_played_is_a_beep_and_no_device_is_silence
         EXPECT_EQ(player->waveOutGetNumDevs(), devices) << driver;
         Play("click.Wav", Ramp(100, 1));
         int expected = 0;
-        for (const char* name : {"missing.Wav", "damaged.Wav", ""}) {
-            Play(name);
+        for (const char* name : {"missing.Wav", "damaged.Wav", "", "beep"}) {
+            QFile::resize(heard, 0);
+            name == std::string("beep") ? player->Beep() : Play(name);
             EXPECT_EQ(beeps, expected) << "the call itself does not beep";
+            if (devices > 0) {
+                EXPECT_TRUE(ComesToHear(SignalOf(tone.data(), tone.size()))) << name;
+                continue;
+            }
             ASSERT_TRUE(Comes([&] { return beeps == expected + 1; })) << driver << name;
             ++expected;
         }
