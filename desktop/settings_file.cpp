@@ -24,12 +24,19 @@ constexpr QLatin1StringView no_room("there is no room left on the disk");
 constexpr QLatin1StringView no_folder("the folder cannot be written");
 constexpr QLatin1StringView no_write("the file cannot be written");
 constexpr QLatin1StringView half_written("the disk is full or cannot be written");
+constexpr QLatin1StringView no_file("the link there leads to what is no ordinary file");
+constexpr QLatin1StringView too_large("the file would become too large");
 constexpr QLatin1StringView locked("another program keeps the file locked");
 
 struct Contents {
     QJsonObject all;
     bool damaged = false;
+    bool dense = false;  ///< written with less white space than this program uses
 };
+
+QByteArray Bytes(const QJsonObject& all, bool dense) {
+    return QJsonDocument(all).toJson(dense ? QJsonDocument::Compact : QJsonDocument::Indented);
+}
 
 Contents ReadContents(const QString& name) {
     const QFileInfo info(name);
@@ -40,13 +47,27 @@ Contents ReadContents(const QString& name) {
     const QByteArray bytes = file.read(largest_file + 1);
     if (bytes.size() > largest_file) return {{}, true};
     const QJsonDocument document = QJsonDocument::fromJson(bytes);
-    return {document.object(), !document.isObject()};
+    const QJsonObject all = document.object();
+    return {all, !document.isObject(), bytes.size() < Bytes(all, false).size()};
 }
 
-/// Where a link leads: the file it stands for is the one to replace, not the link.
+/// Where a link leads, over others if need be: what it stands for is to be replaced, not the link.
 QString Followed(const QString& name) {
     const QFileInfo info(name);
-    return info.isSymLink() ? info.symLinkTarget() : name;
+    if (!info.isSymLink()) return name;
+    return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
+}
+
+/// A device or a pipe that somebody keeps behind a link serves others, too, and stays as it is.
+bool LeadsAstray(const QString& name) {
+    const QFileInfo info(name);
+    return info.isSymLink() && info.exists() && !info.isFile();
+}
+
+/// The folder of a user's settings. A relative one in the environment is to be ignored.
+QString ConfigFolder() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + QStringLiteral("/.config");
 }
 
 /// What a program that was killed between its first byte and its last has left beside the file.
@@ -97,8 +118,7 @@ QString Replace(const QString& name, const QByteArray& bytes, bool aside) {
 }  // namespace
 
 SettingsFile::SettingsFile()
-    : SettingsFile(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                   QStringLiteral("/corvanda/settings.json")) {}
+    : SettingsFile(ConfigFolder() + QStringLiteral("/corvanda/settings.json")) {}
 
 std::string SettingsFile::GetSetting(const std::string& application, const std::string& section,
                                      const std::string& key, const std::string& otherwise) {
@@ -130,6 +150,7 @@ std::string SettingsFile::Commit() {
 }
 
 QString SettingsFile::Write() {
+    if (LeadsAstray(file)) return no_file;
     const QString target = Followed(file);
     if (!QDir().mkpath(QFileInfo(target).path())) return no_folder;
     // Another copy of the program may be between its reading and its writing just now.
@@ -138,7 +159,8 @@ QString SettingsFile::Write() {
     SweepUp(target);
     Contents contents = ReadContents(target);
     Merge(contents.all);
-    const QByteArray bytes = QJsonDocument(contents.all).toJson();
+    const QByteArray bytes = Bytes(contents.all, contents.dense);
+    if (bytes.size() > largest_file) return too_large;
     QString failure = Replace(target, bytes, contents.damaged);
     if (failure.isEmpty()) read = contents.all;
     return failure;

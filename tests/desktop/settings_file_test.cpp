@@ -73,6 +73,10 @@ class SettingsFileTest : public testing::Test {
 TEST_F(SettingsFileTest, a_later_run_reads_what_was_committed_and_others_wrote_meanwhile) {
     EXPECT_EQ(SettingsFile().FileName(),
               qEnvironmentVariable("XDG_CONFIG_HOME") + "/corvanda/settings.json");
+    const QByteArray config = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", "relative");
+    EXPECT_EQ(SettingsFile().FileName(), QDir::homePath() + "/.config/corvanda/settings.json");
+    qputenv("XDG_CONFIG_HOME", config);
     SettingsFile mine(file);
     EXPECT_EQ(mine.Commit(), "");
     mine.SaveSetting(app, "Config", "Sonido", "0");
@@ -115,12 +119,31 @@ TEST_F(SettingsFileTest, whatever_stands_there_gives_defaults_and_gives_way) {
     }
 }
 
+TEST_F(SettingsFileTest, what_others_wrote_densely_does_not_outgrow_the_reader) {
+    QByteArray deep = "0";
+    for (int i = 0; i < 500; ++i) deep = "[" + deep + ",0]";
+    WriteBytes(file, R"({"x":)" + deep + "}");
+    ExpectToStore("deep nesting");
+    EXPECT_LT(ReadBytes(file).size(), deep.size() + 100);
+    WriteBytes(file, R"({"x":")" + QByteArray((1 << 20) - 20, 'a') + R"("})");
+    EXPECT_EQ(Store("0"), Failure("the file would become too large"));
+    EXPECT_EQ(Stored("x"), "default");
+}
+
 TEST_F(SettingsFileTest, what_is_no_ordinary_file_is_neither_waited_for_nor_lost) {
     WriteBytes(file, "");
     QFile::remove(file);
     ASSERT_EQ(::mkfifo(QFile::encodeName(file).constData(), 0600), 0);
     EXPECT_EQ(Stored(), "default");
     ExpectToStore("a pipe");
+    // A device or pipe behind a link is somebody else's as well.
+    QFile::rename(file + ".damaged", file + ".pipe");
+    QFile::remove(file);
+    ASSERT_TRUE(QFile::link(file + ".pipe", file + ".link") && QFile::link(file + ".link", file));
+    EXPECT_EQ(Stored(), "default");
+    EXPECT_EQ(Store("0"), Failure("the link there leads to what is no ordinary file"));
+    EXPECT_EQ(QFileInfo(file).canonicalFilePath(), QFileInfo(file + ".pipe").absoluteFilePath());
+    EXPECT_FALSE(QFileInfo(file).isFile());
     QFile::remove(file);
     QDir().mkpath(file);
     EXPECT_EQ(Store("0"), Failure("the file cannot be written"));
