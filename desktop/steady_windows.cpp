@@ -38,18 +38,30 @@ SteadyWindows::Moved* SteadyWindows::Find(const QWidget* window) {
 }
 
 bool SteadyWindows::eventFilter(QObject* watched, QEvent* event) {
-    const bool other_screen = event->type() == QEvent::ScreenChangeInternal;
-    if (!watched->isWidgetType() || (!other_screen && event->type() != QEvent::Move)) return false;
+    const bool shown = event->type() == QEvent::Show;
+    if (!watched->isWidgetType() || (!shown && event->type() != QEvent::Move)) return false;
     auto* window = static_cast<QWidget*>(watched);
     const auto kind = window->windowType();
     if (kind != Qt::Window && kind != Qt::Dialog) return false;
-    if (other_screen) Note(window);
+    if (shown) Watch(window);
     if (Find(window) != nullptr) rest.start();
     return false;
 }
 
+// A window that is shown again may have another native one than before.
+void SteadyWindows::Watch(QWidget* window) {
+    const QWindow* native = window->windowHandle();
+    if (native == nullptr || watched.contains(native)) return;
+    watched.insert(native);
+    connect(native, &QWindow::screenChanged, this, [this, of = QPointer(window)] {
+        if (of) Note(of);
+    });
+    connect(native, &QObject::destroyed, this, [this, native] { watched.erase(native); });
+}
+
 // The window still has the size that it had on the screen before.
 void SteadyWindows::Note(QWidget* window) {
+    rest.start();
     Moved* known = Find(window);
     if (known == nullptr) {
         if (window->isVisible()) moved.push_back({window, window->size(), {}});

@@ -13,6 +13,7 @@
 #include <QSize>
 #include <QTimer>
 #include <QWidget>
+#include <set>
 #include <vector>
 
 namespace corvanda {
@@ -31,12 +32,14 @@ class SteadyWindows final : public QObject {
         QSize left_at;  // by the toolkit; invalid until the window has come to rest
     };
 
+    void Watch(QWidget* window);
     void Note(QWidget* window);
     Moved* Find(const QWidget* window);
     static bool IsSettled(const Moved& each);
     void GiveSizesBack();
 
-    std::vector<Moved> moved;  // and not yet seen to have their sizes back
+    std::set<const QObject*> watched;  // native windows
+    std::vector<Moved> moved;          // and not yet seen to have their sizes back
     QTimer rest;
 };
 

@@ -48,10 +48,16 @@ void Voz::Decir(const QString& frase) {
 }
 
 void Voz::Hablar() {
-    setAccessibleName(std::exchange(pendiente, {}));
+    const QString frase = std::exchange(pendiente, {});
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent anuncio(this, frase);
+    QAccessible::updateAccessibility(&anuncio);
+#else
+    setAccessibleName(frase);
     QAccessibleEvent mostrada(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&mostrada);
-    emit dicho(accessibleName());
+#endif
+    emit dicho(frase);
 }
 
 }  // namespace corvanda

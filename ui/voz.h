@@ -1,8 +1,8 @@
-// A voice for screen readers: it has no size and nothing is ever drawn, but in the accessible tree
-// it is a notification whose name is the last sentence. For each sentence the name changes and the
-// notification is reported as shown anew, which is what screen readers speak without leaving the
-// control that has the focus. The toolkit has no event for announcements before 6.8. They ask for
-// the name when they hear of it, so what is said within a moment is said as one.
+// A voice for screen readers: it has no size and nothing is ever drawn. From 6.8 on the toolkit has
+// an event for announcements. Before that the voice is a notification in the accessible tree, whose
+// name is the last sentence: for each sentence the name changes and the notification is reported as
+// shown anew, which is what screen readers speak without leaving the control that has the focus.
+// They ask for the name when they hear of it, so what is said within a moment is said as one.
 #pragma once
 
 #include <QAccessible>
