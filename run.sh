@@ -11,6 +11,11 @@ cd "$(dirname "$(readlink -f "$0")")" || exit 1
 grupos=(build run) programas=(corvanda)
 hay_pantalla || { grupos+=(screen) programas+=(demostracion); }
 
+# What was built in a tree that cannot be written is as good as it will be.
+if hay_pantalla && [ -x build/release/bin/corvanda ] && [ ! -w build/release ]; then
+    exec build/release/bin/corvanda "$@"
+fi
+
 bash tools/instalar.sh "${grupos[@]}" || exit 1
 if [ ! -f build/release/bin/corvanda ]; then
     echo "Corvanda: building the game, which takes a minute or two the first time" >&2
