@@ -3,9 +3,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 
 #include "app/aplicacion.h"
 #include "desktop/heap.h"
+#include "desktop/silent_buses.h"
+#include "desktop/start.h"
 #include "runtime/random.h"
 
 namespace {
@@ -39,7 +42,11 @@ int main(int argc, char** argv) {
         return said ? EXIT_SUCCESS : EXIT_FAILURE;
     }
     corvanda::KeepHeapSmall();
+    corvanda::LeaveOutSilentBuses();
+    std::optional<corvanda::StartWatch> start(std::in_place);
     const QApplication qt(argc, argv);
+    start->CheckScreen();
+    start.reset();
     corvanda::Random azar;
     corvanda::Aplicacion corvanda(azar);
     corvanda.Empezar();

@@ -1,11 +1,30 @@
 #include "desktop/program_folder.h"
 
+#include <unistd.h>
+
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
+#include <filesystem>
 
 namespace corvanda {
 
-ProgramFolder::ProgramFolder() : ProgramFolder(QCoreApplication::applicationFilePath()) {}
+namespace {
+
+// The toolkit can address nothing in a folder whose name is no UTF-8. As the working folder, which
+// the game has no other use for, it needs no name.
+QString Executable() {
+    const QString name = QCoreApplication::applicationFilePath();
+    if (QFileInfo::exists(name)) return name;
+    std::error_code unreadable;
+    const auto real = std::filesystem::read_symlink("/proc/self/exe", unreadable);
+    if (unreadable || ::chdir(real.parent_path().c_str()) != 0) return name;
+    return QStringLiteral("/proc/self/cwd/") + QFile::decodeName(real.filename().c_str());
+}
+
+}  // namespace
+
+ProgramFolder::ProgramFolder() : ProgramFolder(Executable()) {}
 
 ProgramFolder::ProgramFolder(const QString& executable) {
     const QFileInfo info(executable);

@@ -14,7 +14,8 @@ namespace corvanda {
 class ProgramFolder final : public App {
   public:
     /// Takes both answers from the running executable at once: a program that is replaced while it
-    /// runs keeps them.
+    /// runs keeps them. A folder whose name is no UTF-8 becomes the working folder of the program
+    /// and is called "/proc/self/cwd".
     ProgramFolder();
     /// Answers with the folder and name of the given executable, for tests.
     explicit ProgramFolder(const QString& executable);

@@ -17,7 +17,13 @@ namespace {
 std::atomic<int> way_out{-1};
 static_assert(std::atomic<int>::is_always_lock_free);
 
-void OnSignal(int) {
+std::atomic_flag told_before = ATOMIC_FLAG_INIT;
+
+// The first is heard by the event loop. Where that does not run, or not any more, the second ends
+// the program at once: nothing is saved at such an end, so there is nothing to lose. A SIGHUP comes
+// by itself after the SIGTERM of a session, and twice when a terminal closes.
+void OnSignal(int signal) {
+    if (told_before.test_and_set() && signal != SIGHUP) ::_exit(128 + signal);
     const int kept = errno;
     const char word = 1;
     // A full pipe already holds enough to be heard.
@@ -29,6 +35,8 @@ void OnSignal(int) {
 
 SystemClose::SystemClose() {
     qApp->installEventFilter(this);
+    // A write that fails says so by itself: to a terminal that is gone, or past a limit of size.
+    for (const int harmless : {SIGPIPE, SIGXFSZ}) std::signal(harmless, SIG_IGN);
     CatchSignals();
 }
 
@@ -56,6 +64,7 @@ void SystemClose::CatchSignals() {
 
 void SystemClose::ReleaseSignals() {
     if (ends[0] < 0) return;
+    told_before.clear();
     for (std::size_t i = 0; i < earlier.size(); ++i)
         ::sigaction(signals_caught[i], &earlier[i], nullptr);
     way_out = -1;

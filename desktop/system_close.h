@@ -7,7 +7,8 @@
 // The toolkit also sends the quit event when the last window closes, unless the application turned
 // that off with setQuitOnLastWindowClosed(false).
 //
-// A SIGHUP that was ignored when the program started (nohup) stays ignored.
+// A second SIGTERM or SIGINT ends the program at once, whatever it is doing. A SIGHUP that was
+// ignored when the program started (nohup) stays ignored, and SIGPIPE and SIGXFSZ are from now on.
 #pragma once
 
 #include <QObject>

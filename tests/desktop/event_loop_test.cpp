@@ -1,6 +1,7 @@
 // The passes of the event loop, and the end of the program when the system asks for it.
 #include "desktop/event_loop.h"
 
+#include <optional>
 #include <thread>
 
 #include "desktop/system_close.h"
@@ -61,9 +62,12 @@ TEST(EventLoop, passes_go_on_after_the_program_was_told_to_quit) {
 }
 
 TEST(SystemClose, each_signal_and_the_sessions_quit_become_requests) {
-    const SystemClose system;
+    std::optional<SystemClose> system;
     int requests = 0, expected = 0;
-    QObject::connect(&system, &SystemClose::requested, [&] { ++requests; });
+    const auto listen = [&] {
+        QObject::connect(&system.emplace(), &SystemClose::requested, [&] { ++requests; });
+    };
+    listen();
     QWidget window;
     window.show();
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
@@ -71,8 +75,13 @@ TEST(SystemClose, each_signal_and_the_sessions_quit_become_requests) {
         EXPECT_EQ(requests, expected) << "nothing is emitted inside the signal handler";
         EXPECT_TRUE(QTest::qWaitFor([&] { return requests > expected; })) << number;
         expected = requests;
+        EXPECT_EXIT(std::raise(SIGINT), testing::ExitedWithCode(128 + SIGINT), "")
+            << "the second signal ends the program, whether anybody listens or not";
+        listen();
     }
-    for (int i = 0; i < 70000; ++i) std::raise(SIGTERM);
+    // Both come at the end of a session, and of a terminal.
+    std::raise(SIGTERM);
+    for (int i = 0; i < 70000; ++i) std::raise(SIGHUP);
     EXPECT_TRUE(QTest::qWaitFor([&] { return requests > expected; })) << "a flood blocks nobody";
     expected = requests;
     QEvent quit(QEvent::Quit);
