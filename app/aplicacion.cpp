@@ -81,6 +81,7 @@ void Aplicacion::Mostrar_Principal() {
 void Aplicacion::Mostrar_Acerca() {
     const auto acerca = Hacer_Acerca(principal.get());
     acerca->Mostrar_Direccion();
+    acerca->setWindowModality(Qt::WindowModal);
     acerca->exec();
 }
 

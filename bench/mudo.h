@@ -24,6 +24,7 @@ class Mudo : public MessageBoxes,
     }
     void DoEvents() override {}
     void DoEventsPaced() override {}
+    void Sleep(int /*milliseconds*/) override {}
     void SetShape(PointerShape /*shape*/) override {}
     double Rnd() override { return suerte.Rnd(); }
     void Randomize() override {}

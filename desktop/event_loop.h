@@ -34,6 +34,8 @@ class QtEventLoop final : public EventLoop {
     /// caught up.
     void DoEventsPaced() override;
 
+    void Sleep(int milliseconds) override;
+
   private:
     const PaceClock clock;
     PaceClock::Point deadline{};  ///< when the last paced pass was to end

@@ -1,7 +1,6 @@
 #include "desktop/help_window.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScreen>
@@ -11,7 +10,6 @@
 #include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
-#include <QWindow>
 #include <algorithm>
 
 namespace corvanda {
@@ -86,8 +84,10 @@ QWidget* HelpWindow::MakeSide() {
         tabs->setCurrentIndex(contents_tab);
         tree->setFocus();
     });
-    connect(new QShortcut(Qt::CTRL | Qt::Key_2, this), &QShortcut::activated, this,
-            &HelpWindow::OpenIndex);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_2, this), &QShortcut::activated, this, [this] {
+        tabs->setCurrentIndex(index_tab);
+        filter->setFocus();
+    });
     return tabs;
 }
 
@@ -217,20 +217,11 @@ void HelpWindow::OpenContents() {
 void HelpWindow::OpenIndex() {
     if (page->source().isEmpty()) page->Show(help->Contents().front().name);
     tabs->setCurrentIndex(index_tab);
-    filter->selectAll();
+    filter->clear();
     filter->setFocus();
 }
 
-// A modal dialog blocks every window but those that belong to it. The bond is made between the
-// native windows only, because a child widget would be deleted with the dialog.
 void HelpWindow::Present() {
-    winId();  // there is no native window before the first showing
-    const QWidget* modal = QApplication::activeModalWidget();
-    QWindow* over = modal != nullptr ? modal->window()->windowHandle() : nullptr;
-    if (windowHandle()->transientParent() != over) {
-        hide();
-        windowHandle()->setTransientParent(over);
-    }
     if (isMinimized()) showNormal();
     show();
     raise();

@@ -31,8 +31,8 @@ class HelpWindow final : public QDialog {
     void OpenContents();
     void OpenIndex();
 
-    /// Brings the window to the front. Over a modal dialog it becomes the dialog's own, so that
-    /// both take input; when that dialog goes, the window stays.
+    /// Brings the window to the front. It takes input whatever is open: the game's boxes and
+    /// dialogs are modal to the game's own windows only.
     void Present();
 
   protected:

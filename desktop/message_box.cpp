@@ -108,10 +108,9 @@ QtMessageBoxes::QtMessageBoxes(QtMousePointer& pointer) : pointer(pointer) {
 }
 
 QWidget* QtMessageBoxes::Owner() const {
-    // The desktop tells late which window is active; what is modal is known at once.
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    if (QWidget* active = QApplication::activeWindow()) return active;
-    return main_window && main_window->isVisible() ? main_window.data() : nullptr;
+    if (main_window && main_window->isVisible()) return main_window;
+    return QApplication::activeWindow();
 }
 
 Integer QtMessageBoxes::MsgBox(const std::string& text, Integer style, const std::string& title) {
@@ -122,7 +121,8 @@ Integer QtMessageBoxes::MsgBox(const std::string& text, Integer style, const std
     // handler that runs while it is open.
     QPointer<QMessageBox> box(new Box(Owner()));
     box->setObjectName(QStringLiteral("MsgBox"));
-    box->setWindowModality(Qt::ApplicationModal);
+    // The help has windows of its own, which stay usable beside the box.
+    box->setWindowModality(Qt::WindowModal);
     box->setTextFormat(Qt::PlainText);
     box->setTextInteractionFlags(Qt::NoTextInteraction);
     box->setIcon(IconOf(style));

@@ -46,6 +46,8 @@ class EventLoop {
     /// One pass that handles whatever arrives for about 3.3 milliseconds, using no processor time
     /// while nothing does. Three of these are one cycle of the computer's pause.
     virtual void DoEventsPaced() = 0;
+    /// Waits, and nothing that people do is handled. What was drawn before is seen meanwhile.
+    virtual void Sleep(int milliseconds) = 0;
 };
 
 enum class PointerShape : Byte { Default, Hourglass };
@@ -75,7 +77,7 @@ class WaveOut {
     virtual void sndPlaySound(const std::string& path) = 0;
     /// How many devices can play wave files; 0 means that no sound can be heard.
     virtual unsigned waveOutGetNumDevs() = 0;
-    /// The platform's own beep.
+    /// A beep that comes from no file.
     virtual void Beep() = 0;
 };
 

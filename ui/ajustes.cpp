@@ -21,7 +21,8 @@ Byte Nivel_Guardado(const std::string& nombre) {
 Ajustes::Ajustes(SettingsStore& almacen, const App& programa)
     : almacen(almacen), aplicacion(programa.Path() + "\\Corvanda.Ini") {}
 
-void Ajustes::Leer(Menus& menus, Modulo1& modulo) const {
+void Ajustes::Leer(Menus& menus, Modulo1& modulo) {
+    leidos = true;
     const auto leer = [this](const char* clave, const char* defecto) {
         return almacen.GetSetting(aplicacion, SECCION, clave, defecto);
     };
@@ -32,6 +33,7 @@ void Ajustes::Leer(Menus& menus, Modulo1& modulo) const {
 }
 
 std::string Ajustes::Guardar(const Menus& menus, const Modulo1& modulo) const {
+    if (!leidos) return {};
     const auto guardar = [this](const char* clave, const std::string& valor) {
         almacen.SaveSetting(aplicacion, SECCION, clave, valor);
     };

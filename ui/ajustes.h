@@ -15,13 +15,14 @@ class Ajustes {
     Ajustes(SettingsStore& almacen, const App& programa);
 
     /// Sets the Sound mark, the level marks and Velocidad; what is missing gets its default.
-    void Leer(Menus& menus, Modulo1& modulo) const;
-    /// Saves them. Returns an empty text, or why they could not be saved.
+    void Leer(Menus& menus, Modulo1& modulo);
+    /// Saves them, if they were read before. Returns an empty text, or why they could not be saved.
     std::string Guardar(const Menus& menus, const Modulo1& modulo) const;
 
   private:
     SettingsStore& almacen;
     const std::string aplicacion;  // every folder that the program lies in has settings of its own
+    bool leidos = false;
 };
 
 }  // namespace corvanda

@@ -28,6 +28,8 @@ void Centrar(QDialog& dialogo) {
 }  // namespace
 
 void Preparar(QDialog& dialogo, Escala escala, double ancho, double alto) {
+    // The help, which is no part of the game's windows, stays usable beside it.
+    dialogo.setWindowModality(Qt::WindowModal);
     dialogo.setFixedSize(escala.Tamano(ancho, alto));
     Centrar(dialogo);
     dialogo.setFont(escala.Letra(LETRA));

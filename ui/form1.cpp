@@ -1,7 +1,6 @@
 #include "ui/form1.h"
 
 #include <QKeyEvent>
-#include <QThread>
 #include <algorithm>
 
 #include "runtime/conversion.h"
@@ -26,8 +25,9 @@ const QColor AZUL_OSCURO(0, 0, 0x80);
 
 }  // namespace
 
-Form1::Form1(QWidget* ventana, Modulo1& modulo, Escala escala, Estampas& estampas)
-    : QDialog(ventana), modulo(modulo), escala(escala), estampas(estampas) {
+Form1::Form1(QWidget* ventana, Modulo1& modulo, EventLoop& eventos, Escala escala,
+             Estampas& estampas)
+    : QDialog(ventana), modulo(modulo), eventos(eventos), escala(escala), estampas(estampas) {
     setObjectName("Form1");
     setWindowTitle("Game Speed...");
     dialogos::Preparar(*this, escala, 4770, 1815);
@@ -115,7 +115,8 @@ void Form1::Scroll_Change() {
     TxtVel->setText(QString::fromStdString(Str(static_cast<Integer>(Scroll->value()))));
 }
 
-// The chip slides without any event being handled, so the buttons cannot be pressed meanwhile.
+// The chip slides without anybody's input being handled, so the buttons cannot be pressed
+// meanwhile.
 void Form1::Timer1_Timer() {
     Timer1.stop();
     Image3->Mostrar(Ficha("cafe_estela"));
@@ -123,7 +124,7 @@ void Form1::Timer1_Timer() {
     for (int x = 3840; x >= 100; x -= 50) {
         Image3->setGeometry(QRect(escala.Lugar(x, 0, LADO, LADO).topLeft(), tamano));
         repaint();
-        QThread::msleep(1);
+        eventos.Sleep(1);
     }
     Image3->Mostrar(Ficha("cafe_dialogo"));
     for (QPushButton* boton : {BtnAceptar, BtnCancelar}) boton->setEnabled(true);

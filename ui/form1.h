@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include "core/partida.h"
+#include "runtime/ports.h"
 #include "ui/cuadro.h"
 #include "ui/escala.h"
 #include "ui/estampas.h"
@@ -22,7 +23,7 @@ class Form1 final : public QDialog {
   public:
     /// Shows Velocidad, or the nearest end of the bar when it lies outside 1 to 200; only "&Ok"
     /// changes it.
-    Form1(QWidget* ventana, Modulo1& modulo, Escala escala, Estampas& estampas);
+    Form1(QWidget* ventana, Modulo1& modulo, EventLoop& eventos, Escala escala, Estampas& estampas);
 
   protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
@@ -38,6 +39,7 @@ class Form1 final : public QDialog {
     void BtnAceptar_Click();
 
     Modulo1& modulo;
+    EventLoop& eventos;
     const Escala escala;
     Estampas& estampas;
     QLineEdit* TxtVel = nullptr;

@@ -113,11 +113,10 @@ void FrmPrincipal::Form_Load() {
     partida.Dobles = 0;
     juego.Cargar_Controles();
     juego.Ordenar();
-    estuche->hide();  // there is no board to see before it is dressed
     Mostrar_Ventana();
     servicios.Eventos.DoEvents();
+    if (juego.Cerrando()) return;
     juego.Vestir_Tablero();
-    estuche->show();
     partida.Jugando = False;
     ajustes.Leer(menus, partida);
     partida.Sonido = menus.mnuSonido->isChecked() ? True : False;
@@ -177,7 +176,7 @@ void FrmPrincipal::mnuVs_Click() {
 }
 
 void FrmPrincipal::Mostrar() {
-    FrmVolado dialogo(this, partida, servicios.Azar, escala, estampas,
+    FrmVolado dialogo(this, partida, servicios.Azar, servicios.Eventos, escala, estampas,
                       [this] { Form_KeyDown(TECLA_F1); });
     dialogo.exec();
 }
@@ -193,7 +192,7 @@ void FrmPrincipal::mnuSonido_Click() {
 }
 
 void FrmPrincipal::mnuVel_Click() {
-    Form1 dialogo(this, partida, escala, estampas);
+    Form1 dialogo(this, partida, servicios.Eventos, escala, estampas);
     dialogo.exec();
 }
 

@@ -1,7 +1,6 @@
 #include "ui/frm_volado.h"
 
 #include <QKeyEvent>
-#include <QThread>
 
 #include "runtime/conversion.h"
 #include "ui/dialogos.h"
@@ -19,11 +18,12 @@ constexpr double CONTORNO = 25;  // twips on each side of a white letter
 
 }  // namespace
 
-FrmVolado::FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, Escala escala,
-                     Estampas& estampas, std::function<void()> ayuda)
+FrmVolado::FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, EventLoop& eventos,
+                     Escala escala, Estampas& estampas, std::function<void()> ayuda)
     : QDialog(ventana),
       modulo(modulo),
       azar(azar),
+      eventos(eventos),
       escala(escala),
       estampas(estampas),
       ayuda(std::move(ayuda)) {
@@ -70,9 +70,9 @@ void FrmVolado::Btn_Click() {
         Tiro_Blanca = Tirar(Image1, "White", {});
         Btn->setText("&Brown Chips");
         if (modulo.Nivel == DOS_PERSONAS) return;
-        // The computer throws by itself. No event is handled while its die is waited for.
+        // The computer throws by itself. Nobody's input is handled while its die is waited for.
         repaint();
-        QThread::msleep(ESPERA);
+        eventos.Sleep(ESPERA);
         Tirar_Cafe();
     } else if (Btn->text() == "&Brown Chips") {
         Tirar_Cafe();

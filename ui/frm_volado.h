@@ -21,8 +21,8 @@ class FrmVolado final : public QDialog {
 
   public:
     /// `ayuda` opens the help as F1 does in the main window.
-    FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, Escala escala,
-              Estampas& estampas, std::function<void()> ayuda);
+    FrmVolado(QWidget* ventana, Modulo1& modulo, RandomNumbers& azar, EventLoop& eventos,
+              Escala escala, Estampas& estampas, std::function<void()> ayuda);
 
     /// One step: a throw, or the end.
     void Btn_Click();
@@ -39,6 +39,7 @@ class FrmVolado final : public QDialog {
 
     Modulo1& modulo;
     RandomNumbers& azar;
+    EventLoop& eventos;
     const Escala escala;
     Estampas& estampas;
     std::function<void()> ayuda;

@@ -58,6 +58,7 @@ class Escritorio final : public MessageBoxes,
 
     /// What stands in the settings store, by application, section and key.
     std::map<std::tuple<std::string, std::string, std::string>, std::string> almacen;
+    int dormido = 0;                   ///< milliseconds, in all
     std::string fallo_al_guardar;      ///< what Commit answers
     unsigned dispositivos = 1;         ///< what waveOutGetNumDevs answers
     std::vector<Control> refrescados;  ///< the images of which the board was told
@@ -68,6 +69,7 @@ class Escritorio final : public MessageBoxes,
         ++pases_de_pausa;
         DoEvents();
     }
+    void Sleep(int milliseconds) override { dormido += milliseconds; }
     void SetShape(PointerShape shape) override {
         reloj_de_arena = shape == PointerShape::Hourglass;
         diario.emplace_back(reloj_de_arena ? "puntero reloj" : "puntero normal");

@@ -1,6 +1,5 @@
 // The help file and the window that shows it.
 #include <QCryptographicHash>
-#include <QPushButton>
 #include <QScreen>
 #include <QWindow>
 
@@ -143,6 +142,10 @@ TEST_F(HelpTest, the_filter_narrows_the_keywords_and_they_open_their_pages) {
     Type("zzz");
     for (const auto key : {Qt::Key_Return, Qt::Key_Down}) Press(key);
     EXPECT_EQ(Topic(), "bearing.html#larger") << "nothing to open";
+    Ask(help::Key);
+    EXPECT_EQ(Part<QLineEdit>("HelpFilter")->text(), "") << "the index is asked for anew";
+    viewer.emplace(*this, of, "Corvanda");
+    EXPECT_TRUE(Windows().empty()) << "a window goes with its viewer";
 }
 
 TEST_F(HelpTest, links_stay_inside_the_help) {
@@ -203,27 +206,6 @@ TEST_F(HelpTest, pictures_are_drawn_for_the_screen_they_are_on) {
         Page()->Show("dice.html");
         EXPECT_EQ(ratio(), 1 + screen) << "moved with " << page;
     }
-}
-
-TEST_F(HelpTest, help_and_a_modal_dialog_both_take_input) {
-    for (const bool open_before : {false, true}) {
-        if (open_before) Ask(help::Context, 1);
-        QDialog dialog;
-        QPushButton close_button("Close", &dialog);
-        QObject::connect(&close_button, &QPushButton::clicked, &dialog, &QDialog::accept);
-        QTimer::singleShot(5000, &dialog, &QDialog::reject);  // must fail the test, not hang it
-        QTimer::singleShot(0, &dialog, [&] {
-            Ask(help::Key);
-            Type("doubles");
-            Press(Qt::Key_Return);
-            EXPECT_EQ(Topic(), "doubles.html") << "open before: " << open_before;
-            QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, {5, 5});
-        });
-        EXPECT_EQ(dialog.exec(), QDialog::Accepted) << "open before: " << open_before;
-        EXPECT_TRUE(Window().isVisible()) << "the help stays when the dialog goes";
-        viewer.emplace(*this, of, "Corvanda");
-    }
-    EXPECT_TRUE(Windows().empty()) << "a window goes with its viewer";
 }
 
 }  // namespace

@@ -138,7 +138,7 @@ TEST(Accesible, The_Throw_For_The_Start_Is_Said_Aloud) {
     Sin_Raton v("");
     v.escritorio.Dados({3, 3});
     const Escala escala;
-    FrmVolado volado(nullptr, v.partida, v.escritorio, escala, v.estampas, [] {});
+    FrmVolado volado(nullptr, v.partida, v.escritorio, v.escritorio, escala, v.estampas, [] {});
     volado.show();
     for (const char* frase : {"White throws 3.", "Brown throws 3. Equal dice. Throw again."}) {
         EXPECT_EQ(Oir(volado, [&] { QTest::keyClick(&volado, Qt::Key_Return); }),

@@ -1,6 +1,7 @@
 // Every entry of the menus and the close, chosen while each box and dialog is open: accessibility
 // clients and global menus reach the main window under what is modal.
 #include <QAccessible>
+#include <QLineEdit>
 #include <QMenu>
 
 #include "tests/ui/ventana.h"
@@ -57,6 +58,8 @@ TEST(Bajo_Cajas, no_entry_plays_a_game_that_is_over_or_not_begun_or_leaves_it_in
         ASSERT_EQ(entradas.size(), 11U);
         v.escritorio.Sembrar(1);
         v.vigilante.Siempre(Acabar);
+        QLineEdit ayuda;  // a window that is none of the game's own
+        ayuda.show();
         for (const auto& [entrada, accesible] : entradas) {
             SCOPED_TRACE(abierta.nombre + ", " + entrada.toStdString());
             v.Poner(abierta.posicion);
@@ -64,6 +67,9 @@ TEST(Bajo_Cajas, no_entry_plays_a_game_that_is_over_or_not_begun_or_leaves_it_in
                 const Partida antes = v.partida;
                 const std::size_t cajas = v.vigilante.cajas.size();
                 accesible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+                QTest::keyClick(ayuda.windowHandle(), Qt::Key_A);
+                EXPECT_EQ(ayuda.text(), "a") << "the help stays usable";
+                ayuda.clear();
                 if (entrada == "mnuPasar") {
                     EXPECT_EQ(v.vigilante.cajas.size(), cajas + (abierta.pasa ? 1 : 0));
                     EXPECT_EQ(v.partida, antes);

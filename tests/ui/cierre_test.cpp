@@ -82,6 +82,15 @@ TEST_F(Cierre, only_a_person_is_asked_and_only_yes_saves) {
     }
 }
 
+TEST_F(Cierre, before_the_settings_were_read_nothing_is_saved) {
+    Ventana v;
+    v.escritorio.Contestar(button::Yes);
+    v.escritorio.En_El_Pase(1, [&] { v.frm.close(); });
+    v.frm.Form_Load();
+    EXPECT_TRUE(v.frm.Mesa().Cerrando());
+    EXPECT_TRUE(v.escritorio.almacen.empty());
+}
+
 TEST_F(Cierre, a_store_that_fails_gives_one_message_and_the_program_ends_once) {
     Ventana v;
     Abrir(v);

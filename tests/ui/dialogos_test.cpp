@@ -78,6 +78,7 @@ TEST(Volado, against_the_computer_browns_throw_follows_by_itself_and_so_after_a_
         EXPECT_EQ(v.Leer(), Diario{"ayuda " + v.escritorio.Path() + "\\corvanda.HLP 1 1"});
         QTest::keyClick(&dialogo, Qt::Key_Return);
         EXPECT_EQ(Vista(dialogo), "&White Chips Die: 4 Die: 4 ");
+        EXPECT_EQ(v.escritorio.dormido, 400);
         QTest::keyClick(&dialogo, Qt::Key_Escape);
         EXPECT_EQ(Vista(dialogo), std::string("&Close Die: 2 Die: 1 ") + EMPIEZA_BLANCA);
         QTest::keyClick(&dialogo, Qt::Key_Return);

@@ -100,6 +100,7 @@ class Ventana {
         explicit Pases(Escritorio& escritorio) : escritorio(escritorio) {}
         void DoEvents() override;
         void DoEventsPaced() override;
+        void Sleep(int milliseconds) override { escritorio.Sleep(milliseconds); }
         Escritorio& escritorio;
     };
     Pases pases{escritorio};
