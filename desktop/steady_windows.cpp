@@ -1,10 +1,12 @@
 #include "desktop/steady_windows.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 namespace corvanda {
 
@@ -37,38 +39,61 @@ SteadyWindows::Moved* SteadyWindows::Find(const QWidget* window) {
     return found != moved.end() ? &*found : nullptr;
 }
 
-bool SteadyWindows::eventFilter(QObject* watched, QEvent* event) {
-    const bool shown = event->type() == QEvent::Show;
-    if (!watched->isWidgetType() || (!shown && event->type() != QEvent::Move)) return false;
-    auto* window = static_cast<QWidget*>(watched);
+bool SteadyWindows::eventFilter(QObject* object, QEvent* event) {
+    if (!object->isWidgetType()) return false;
+    auto* window = static_cast<QWidget*>(object);
     const auto kind = window->windowType();
-    if (kind != Qt::Window && kind != Qt::Dialog) return false;
-    if (shown) Watch(window);
-    if (Find(window) != nullptr) rest.start();
+    QWindow* native = window->windowHandle();
+    if (native == nullptr || (kind != Qt::Window && kind != Qt::Dialog)) return false;
+    if (event->type() == QEvent::Show) Watch(window);
+    if (event->type() == QEvent::Resize)
+        NoteFormer(native, static_cast<QResizeEvent*>(event)->oldSize());
+    if (event->type() == QEvent::Move && Find(window) != nullptr) rest.start();
     return false;
 }
 
 // A window that is shown again may have another native one than before.
 void SteadyWindows::Watch(QWidget* window) {
-    const QWindow* native = window->windowHandle();
-    if (native == nullptr || watched.contains(native)) return;
-    watched.insert(native);
+    QWindow* native = window->windowHandle();
+    if (!watched.try_emplace(native, Watched{{}, native->devicePixelRatio()}).second) return;
     connect(native, &QWindow::screenChanged, this, [this, of = QPointer(window)] {
         if (of) Note(of);
     });
     connect(native, &QObject::destroyed, this, [this, native] { watched.erase(native); });
 }
 
-// The window still has the size that it had on the screen before.
+void SteadyWindows::NoteFormer(QWindow* native, const QSize& size) {
+    const auto known = watched.find(native);
+    if (known == watched.end()) return;
+    known->second.former = size;
+    const auto forget = [this, native] {
+        if (const auto still = watched.find(native); still != watched.end())
+            still->second.former = {};
+    };
+    QMetaObject::invokeMethod(this, forget, Qt::QueuedConnection);
+}
+
+// Older toolkits tell of the screen first, later ones of the size that the same pixels make there.
+QSize SteadyWindows::SizeBefore(QWidget* window) {
+    const qreal now = window->windowHandle()->devicePixelRatio();
+    auto& [former, ratio] = watched.at(window->windowHandle());
+    const QSize same_pixels = former * (std::exchange(ratio, now) / now);
+    const QSize off = same_pixels - window->size();
+    const bool counted_anew = std::abs(off.width()) <= 1 && std::abs(off.height()) <= 1;
+    return former.isValid() && counted_anew ? former : window->size();
+}
+
+// `moved` keeps the size that the window had on the screen before.
 void SteadyWindows::Note(QWidget* window) {
     rest.start();
+    const QSize size = SizeBefore(window);
     Moved* known = Find(window);
     if (known == nullptr) {
-        if (window->isVisible()) moved.push_back({window, window->size(), {}});
+        if (window->isVisible()) moved.push_back({window, size, {}});
         return;
     }
-    const bool was_given = known->left_at.isValid() && known->left_at != window->size();
-    if (was_given) known->before = window->size();
+    const bool was_given = known->left_at.isValid() && known->left_at != size;
+    if (was_given) known->before = size;
     known->left_at = {};
 }
 

@@ -13,7 +13,7 @@
 #include <QSize>
 #include <QTimer>
 #include <QWidget>
-#include <set>
+#include <map>
 #include <vector>
 
 namespace corvanda {
@@ -23,7 +23,7 @@ class SteadyWindows final : public QObject {
     SteadyWindows();
 
   protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
     struct Moved {
@@ -32,14 +32,21 @@ class SteadyWindows final : public QObject {
         QSize left_at;  // by the toolkit; invalid until the window has come to rest
     };
 
+    struct Watched {
+        QSize former;  // before a resize of this turn of the event loop; else invalid
+        qreal ratio;   // of the screen that it was on last
+    };
+
     void Watch(QWidget* window);
+    void NoteFormer(QWindow* native, const QSize& size);
+    QSize SizeBefore(QWidget* window);
     void Note(QWidget* window);
     Moved* Find(const QWidget* window);
     static bool IsSettled(const Moved& each);
     void GiveSizesBack();
 
-    std::set<const QObject*> watched;  // native windows
-    std::vector<Moved> moved;          // and not yet seen to have their sizes back
+    std::map<const QObject*, Watched> watched;  // by native window
+    std::vector<Moved> moved;                   // and not yet seen to have their sizes back
     QTimer rest;
 };
 
