@@ -39,10 +39,10 @@ void QtEventLoop::DoEventsPaced() {
 
 // On Wayland what a repaint drew leaves the program only with the next look for events.
 void QtEventLoop::Sleep(int milliseconds) {
-    const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
+    const auto end = clock.now() + std::chrono::milliseconds(milliseconds);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                     QEventLoop::ExcludeSocketNotifiers);
-    std::this_thread::sleep_until(end);
+    clock.sleep_until(end);
 }
 
 }  // namespace corvanda

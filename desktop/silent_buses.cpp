@@ -9,7 +9,6 @@
 #include <QDeadlineTimer>
 #include <QList>
 #include <algorithm>
-#include <cerrno>
 #include <cstddef>
 #include <cstring>
 #include <optional>
@@ -33,7 +32,7 @@ QByteArray SocketOf(const QByteArray& address) {
     return {};
 }
 
-/// A connection, or -1. Full queues count as silence, too, so the call must not wait.
+/// A connection, or -1. Nothing here waits, not even for a full queue.
 int Connect(const QByteArray& socket) {
     sockaddr_un to{};
     to.sun_family = AF_UNIX;
@@ -42,8 +41,7 @@ int Connect(const QByteArray& socket) {
     const auto size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path)) +
                       static_cast<socklen_t>(socket.size());
     const int connection = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (::connect(connection, reinterpret_cast<const sockaddr*>(&to), size) == 0 || errno == EAGAIN)
-        return connection;
+    if (::connect(connection, reinterpret_cast<const sockaddr*>(&to), size) == 0) return connection;
     ::close(connection);
     return -1;
 }

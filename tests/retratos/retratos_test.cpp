@@ -111,13 +111,13 @@ class Dialogos : public testing::Test {
     /// The start-player dialog after these throws, each by a press of its button.
     QImage Sorteo(std::initializer_list<int> tiros, int ratio = 1) {
         escritorio.Dados(tiros);
-        FrmVolado dialogo(nullptr, modulo, escritorio, escala, estampas, [] {});
+        FrmVolado dialogo(nullptr, modulo, escritorio, escritorio, escala, estampas, [] {});
         for (std::size_t i = 0; i < tiros.size(); ++i) dialogo.Btn_Click();
         return Abierta(dialogo, ratio);
     }
     /// The speed dialog once its chip has crossed it.
     QImage Velocidad(int ratio = 1) {
-        Form1 dialogo(nullptr, modulo, escala, estampas);
+        Form1 dialogo(nullptr, modulo, escritorio, escala, estampas);
         Abierta(dialogo, ratio);
         const auto* aceptar = dialogo.findChild<QPushButton*>("BtnAceptar");
         EXPECT_TRUE(QTest::qWaitFor([&] { return aceptar->isEnabled(); }));
@@ -141,7 +141,7 @@ TEST_F(Dialogos, the_start_player_dialog_in_each_of_its_states) {
 
 TEST_F(Dialogos, the_speed_dialog_before_and_after_its_slide) {
     modulo.Velocidad = 100;
-    Form1 cerrado(nullptr, modulo, escala, estampas);
+    Form1 cerrado(nullptr, modulo, escritorio, escala, estampas);
     Retratar_Aqui("speed_before", cerrado.grab().toImage());
     Retratar_Aqui("speed_after", Velocidad());
     Retratar("ayuda/imagenes/speed", laminas::Enmarcada(Velocidad(2)));
