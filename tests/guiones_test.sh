@@ -118,6 +118,9 @@ for llamada in "cmake --preset" "cmake --build" dpkg-parsechangelog cpack; do
     caso "a package without $llamada" 1 "" FALLA="$llamada" package.sh
 done
 [[ $salida == *"see build/log/paquete.log" ]] || mal "nothing told of cpack"
+[ -f "$arbol/build/package/corvanda_0_all.deb" ] || mal "the old package went before there was another"
+caso "an interrupted package" 130 "interrupted, the package is as it was" "SENAL=INT cpack" package.sh
+[ -f "$arbol/build/package/corvanda_0_all.deb" ] || mal "an interruption took the package away"
 
 PAQUETES='# a comment
 build falta orden-que-falta
