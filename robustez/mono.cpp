@@ -4,12 +4,19 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QTest>
 #include <QThread>
 #include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+
+// The toolkit's own test functions send through these, too: as if the window system had sent it.
+Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
+                                      Qt::MouseButtons state, Qt::MouseButton button,
+                                      QEvent::Type type, Qt::KeyboardModifiers mods, int timestamp);
+Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key,
+                                    Qt::KeyboardModifiers mods, const QString& text, bool repeat,
+                                    ushort count);
 
 namespace corvanda {
 
@@ -150,17 +157,19 @@ QWindow* Mono::Destino() {
 }
 
 void Mono::Raton(QWindow* ventana, QPointF lugar, QEvent::Type tipo, Qt::MouseButton boton) {
-    const auto que = tipo == QEvent::MouseButtonPress     ? QTest::MousePress
-                     : tipo == QEvent::MouseButtonRelease ? QTest::MouseRelease
-                                                          : QTest::MouseMove;
-    QTest::mouseEvent(que, ventana, boton, Qt::NoModifier, lugar.toPoint());
+    if (tipo == QEvent::MouseButtonPress) botones |= boton;
+    if (tipo == QEvent::MouseButtonRelease) botones &= ~Qt::MouseButtons(boton);
+    const QPointF global = lugar + ventana->position();
+    const auto cuando = static_cast<int>(hechos * 37);
+    qt_handleMouseEvent(ventana, lugar, global, botones, boton, tipo, Qt::NoModifier, cuando);
 }
 
 void Mono::Pulsar(QWindow* ventana, int tecla, Qt::KeyboardModifiers con) {
     const QPointer<QWindow> vive(ventana);
-    const auto cual = static_cast<Qt::Key>(tecla);
-    QTest::keyEvent(QTest::Press, ventana, cual, con);
-    if (vive) QTest::keyEvent(QTest::Release, ventana, cual, con);
+    const bool letra = tecla < 0x80 && !(con & (Qt::ControlModifier | Qt::AltModifier));
+    const QString texto = letra ? QString(QChar(tecla)).toLower() : QString();
+    qt_handleKeyEvent(ventana, QEvent::KeyPress, tecla, con, texto, Una_De(8), 1);
+    if (vive) qt_handleKeyEvent(ventana, QEvent::KeyRelease, tecla, con, texto, false, 1);
 }
 
 QPointF Mono::Punto_Del_Tablero(Lugar lugar) const {

@@ -74,6 +74,7 @@ class Mono final : public QObject {
     long hechos = 0;
     int profundidad = 0;
     int esperas_con_reloj = 0;  // events in a row at which the hourglass was shown for nobody
+    Qt::MouseButtons botones;
     Lugar meta{};
     bool en_mano = false;
     bool cargada = false;  // the main window, which sets up the first position
