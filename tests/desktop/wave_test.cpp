@@ -158,7 +158,8 @@ TEST_F(WaveTest, the_device_is_given_back_when_it_was_quiet_and_opened_again) {
 TEST_F(WaveTest,
        a_file_that_cannot_be_played_is_a_tone_or_the_toolkits_beep_and_no_device_is_silence) {
     WriteBytes(folder.filePath("Sonidos/damaged.Wav"), "RIFFxxxxWAVE");
-    const wave::Samples tone = wave::Signal();
+    const wave::Samples samples = wave::Signal();
+    const QByteArray tone(reinterpret_cast<const char*>(samples.data()), qsizetype(samples.size()));
     const std::pair<const char*, unsigned> drivers[] = {{"disk", 1}, {"no such driver", 0}};
     for (const auto& [driver, devices] : drivers) {
         Set("SDL_AUDIODRIVER", driver);
@@ -172,7 +173,7 @@ TEST_F(WaveTest,
             name == std::string("beep") ? player->Beep() : Play(name);
             EXPECT_EQ(beeps, expected) << "the call itself does not beep";
             if (devices > 0) {
-                EXPECT_TRUE(ComesToHear(SignalOf(tone.data(), tone.size()))) << name;
+                EXPECT_TRUE(ComesToHear(tone)) << name;
                 continue;
             }
             ASSERT_TRUE(Comes([&] { return beeps == expected + 1; })) << driver << name;
