@@ -52,8 +52,8 @@ long QtMediaControl::mciSendString(const std::string& command, std::string& repl
 
 long QtMediaControl::Open(const QString& name) {
     auto film = media::ReadFilm(NativePath(folder, name.toStdString()));
-    // A film whose beginning cannot be seen is none, whatever comes later.
-    if (!film || media::Decode(*film, 0).isNull()) return NoFilm;
+    // A film whose beginning cannot be seen is none, whatever comes later. A small picture tells.
+    if (!film || media::Decode(*film, 0, {8, 6}).isNull()) return NoFilm;
     devices.emplace(name, std::make_unique<media::Player>(std::move(*film)));
     return None;
 }

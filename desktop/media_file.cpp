@@ -90,7 +90,7 @@ std::optional<Film> ReadFilm(const QString& file) {
     return film;
 }
 
-QImage Decode(const Film& film, std::size_t frame) {
+QImage Decode(const Film& film, std::size_t frame, QSize pixels) {
     if (frame >= film.frames.size()) return {};
     const auto [at, size] = film.frames[frame];
     QByteArray bytes = QByteArray::fromRawData(film.bytes.constData() + at, size);
@@ -100,6 +100,7 @@ QImage Decode(const Film& film, std::size_t frame) {
     const QSize claimed = reader.size();
     if (!claimed.isValid() || claimed.width() > largest_side || claimed.height() > largest_side)
         return {};
+    if (!pixels.isEmpty()) reader.setScaledSize(pixels);
     return reader.read().convertToFormat(QImage::Format_RGB32);
 }
 

@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QSize>
 #include <QString>
 #include <optional>
 #include <vector>
@@ -28,7 +29,8 @@ struct Film {
 /// 32 MiB, or in which no picture or no sensible duration is found.
 std::optional<Film> ReadFilm(const QString& file);
 
-/// One picture, or a null image where it cannot be decoded.
-QImage Decode(const Film& film, std::size_t frame);
+/// One picture, brought to a size in device pixels when one is given; or a null image where it
+/// cannot be decoded.
+QImage Decode(const Film& film, std::size_t frame, QSize pixels = {});
 
 }  // namespace corvanda::media

@@ -87,7 +87,8 @@ void Player::Advance() {
 // A picture that cannot be decoded leaves the one before it in view.
 void Player::Show(std::size_t frame) {
     if (!screen) return;
-    const QImage picture = Decode(film, frame);
+    const QSizeF pixels = QSizeF(screen->size()) * screen->devicePixelRatioF();
+    const QImage picture = Decode(film, frame, pixels.toSize());
     if (!picture.isNull()) screen->Show(picture);
 }
 
