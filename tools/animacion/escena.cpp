@@ -82,40 +82,64 @@ double Apoyo(const Giro& giro) {
     return recto * (std::abs(giro.x.y) + std::abs(giro.y.y) + std::abs(giro.z.y)) + ESQUINA;
 }
 
-// A jump and two small ones after it, within 0 to 1.
-double Salto(double u) {
-    const struct {
-        double desde, hasta, alto;
-    } saltos[] = {{0, 0.56, 0.80}, {0.56, 0.84, 0.22}, {0.84, 1, 0.05}};
-    for (const auto& salto : saltos) {
-        const double v = (u - salto.desde) / (salto.hasta - salto.desde);
-        if (v > 0 && v < 1) return salto.alto * 4 * v * (1 - v);
+// Somebody flicks the chip: it leaps, spinning, and its landing tosses the dice up. What is in the
+// air falls by one gravity for all, in radii of the chip and seconds, slower than on a real table
+// so that it can be followed; nothing turns faster or slower before it touches the felt.
+constexpr double GRAVEDAD = 14;
+constexpr double SALE = 0.28;  // the chip leaps
+constexpr double CAE = 0.73;   // and lands
+constexpr double PARA = 2.45;  // and has spun out
+
+double Vuelo(double t, double desde, double hasta) {
+    return t > desde && t < hasta ? GRAVEDAD / 2 * (t - desde) * (hasta - t) : 0;
+}
+
+/// A hop of a die, and what is left of its turn when it comes down.
+struct Salto {
+    double dura;
+    double falta;
+};
+
+Cuerpo Dado(double t, Vec sitio, const Giro& reposo, Vec eje, std::initializer_list<Salto> saltos) {
+    const auto postura = [&](double falta) { return Girar(reposo, Unidad(eje), -falta); };
+    double desde = CAE;
+    double faltaba = TAU;
+    for (const auto [dura, falta] : saltos) {
+        const double u = (t - desde) / dura;
+        if (u > 0 && u < 1) {
+            Cuerpo dado{sitio, postura(faltaba + (falta - faltaba) * u)};
+            const double suelo = Apoyo(postura(faltaba)) * (1 - u) + Apoyo(postura(falta)) * u;
+            const double alto = suelo + Vuelo(t, desde, desde + dura);
+            dado.centro.y = std::max(alto, Apoyo(dado.giro));
+            return dado;
+        }
+        desde += dura;
+        faltaba = falta;
     }
-    return 0;
+    sitio.y = Apoyo(reposo);
+    return {sitio, reposo};
 }
 
-Cuerpo Dado(double momento, double desde, double dura, Vec sitio, const Giro& reposo, Vec eje) {
-    const double u = std::clamp((momento - desde) / dura, 0.0, 1.0);
-    const double vuelta = 1 - std::pow(1 - u, 2.2);
-    Cuerpo dado{sitio, Girar(reposo, Unidad(eje), TAU * vuelta)};
-    dado.centro.y = Apoyo(dado.giro) + Salto(u);
-    return dado;
-}
-
-Cuerpo Ficha(double momento) {
-    const double vuelta = Escalon(0, 1, momento);
-    Cuerpo ficha{{0, 1, -0.35}, {}};
-    ficha.giro = Girar(ficha.giro, {0, 1, 0}, -0.42 + 2 * TAU * vuelta);
+// Half of its way the chip turns evenly in the air, then the felt brakes it evenly.
+Cuerpo Ficha(double t) {
+    const double enaire = std::clamp(t, SALE, CAE) - SALE;
+    const double rueda = (std::clamp(t, CAE, PARA) - CAE) / (PARA - CAE);
+    const double frenada = (PARA - CAE) * rueda * (1 - rueda / 2);
+    const double vuelta = (enaire + frenada) / (CAE - SALE + (PARA - CAE) / 2);
+    Cuerpo ficha{{0, 1 + Vuelo(t, SALE, CAE), -0.35}, {}};
+    ficha.giro = Girar(ficha.giro, {0, 1, 0}, -0.42 + TAU * vuelta);
     return ficha;
 }
 
 }  // namespace
 
-Escena::Escena(double momento) : ficha(Ficha(momento)) {
+Escena::Escena(double segundo) : ficha(Ficha(segundo)) {
     const Giro seis = Girar(Girar(Giro{}, {0, 0, 1}, TAU / 2), {0, 1, 0}, 0.55);
     const Giro cinco = Girar(Girar(Giro{}, {1, 0, 0}, TAU / 4), {0, 1, 0}, -0.35);
-    dados[0] = Dado(momento, 0.03, 0.60, {-1.14, 0, 0.74}, seis, {0.75, 0.3, -0.6});
-    dados[1] = Dado(momento, 0.30, 0.62, {1.15, 0, 0.66}, cinco, {0.8, -0.35, 0.5});
+    dados[0] = Dado(segundo, {-1.14, 0, 0.74}, seis, {0.75, 0.3, -0.6},
+                    {{0.80, 0.70}, {0.36, 0.12}, {0.15, 0}});
+    dados[1] = Dado(segundo, {1.15, 0, 0.66}, cinco, {0.8, -0.35, 0.5},
+                    {{0.68, 0.80}, {0.33, 0.14}, {0.14, 0}});
 }
 
 double Escena::Distancia(Vec p) const {

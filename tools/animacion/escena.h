@@ -1,6 +1,6 @@
-// What the animation shows: a chip, ivory on one side and walnut on the other, that spins on its
-// edge, and two dice that jump and tumble beside it, on felt. All of it is at rest at the moment
-// where the loop closes, so that a short wait there looks meant.
+// What the animation shows: a chip, ivory on one side and walnut on the other, that leaps, lands on
+// its edge and spins out, and two dice that its landing tosses up beside it, on felt. All of it is
+// at rest at the moment where the loop closes, so that a short wait there looks meant.
 //
 // Bodies are distance fields; lengths are in radii of the chip, the felt is the plane y = 0.
 #pragma once
@@ -18,9 +18,9 @@ struct Cuerpo {
     Giro giro;
 };
 
-/// Where everything is at a moment of the loop, 0 to 1.
+/// Where everything is at a second of the loop.
 struct Escena {
-    explicit Escena(double momento);
+    explicit Escena(double segundo);
 
     /// How far the nearest body is, never more than it really is.
     double Distancia(Vec p) const;

@@ -9,12 +9,12 @@ namespace animacion {
 
 namespace {
 
-constexpr int MUESTRAS = 5;  // a side: that many squared for each picture element
+constexpr int MUESTRAS = 3;  // a side: that many squared for each picture element
 constexpr double LEJOS = 12;
 
 const Vec CAMARA{0, 2.35, 6.6};
-const Vec MIRA{0, 0.82, 0};
-constexpr double ABERTURA = 0.232;  // half the height of the view at distance 1
+const Vec MIRA{0, 0.88, 0};
+constexpr double ABERTURA = 0.240;  // half the height of the view at distance 1
 
 const Vec SOL = Unidad({-0.55, 1.0, 0.62});
 const Vec COLOR_DEL_SOL{1.25, 1.12, 0.92};
@@ -79,6 +79,7 @@ double Charco(Vec p, double u, double v) {
 
 Vec Alumbrar(const Escena& escena, Vec p, Vec rumbo, double charco) {
     const Materia materia = escena.De_Que(p);
+    if (materia == Materia::Pano && charco <= 0) return {};
     const Vec normal = materia == Materia::Pano ? Vec{0, 1, 0} : escena.Normal(p);
     const Vec color = Color(materia);
     const double rincon = Rincon(escena, p, normal);

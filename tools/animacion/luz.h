@@ -5,7 +5,7 @@
 
 namespace animacion {
 
-/// The picture that is exposed from one moment of the loop to another, 0 to 1.
+/// The picture that is exposed from one second of the loop to another.
 QImage Fotografiar(QSize tamano, double desde, double hasta);
 
 }  // namespace animacion

@@ -12,15 +12,15 @@
 
 namespace {
 
-constexpr int POR_SEGUNDO = 20;
-constexpr int CUANTAS = 58;  // the last one ends as the start-up screen's third second does
-constexpr int CALIDAD = 94;
+constexpr int POR_SEGUNDO = 30;
+constexpr int CUANTAS = 87;  // the last one ends as the start-up screen's third second does
+constexpr int CALIDAD = 80;
 constexpr double OBTURADOR = 0.5;  // how much of its time a picture is exposed
-constexpr QSize TAMANO(200, 150);
+constexpr QSize TAMANO(800, 600);
 
 QImage Foto(QSize tamano, int cual) {
-    return animacion::Fotografiar(tamano, static_cast<double>(cual) / CUANTAS,
-                                  (cual + OBTURADOR) / CUANTAS);
+    return animacion::Fotografiar(tamano, static_cast<double>(cual) / POR_SEGUNDO,
+                                  (cual + OBTURADOR) / POR_SEGUNDO);
 }
 
 bool Filmar(const QString& archivo) {
