@@ -1,6 +1,8 @@
 // The help file and the window that shows it.
 #include <QCryptographicHash>
 #include <QScreen>
+#include <QTextBlock>
+#include <QToolBar>
 #include <QWindow>
 
 #include "desktop/help_viewer.h"
@@ -28,7 +30,7 @@ QByteArray Without(const char* name) {
     return Sealed(bytes);
 }
 
-class HelpTest : public testing::Test, public MessageBoxes {
+class Help : public testing::Test, public MessageBoxes {
   protected:
     Integer MsgBox(const std::string& text, Integer style, const std::string& title) override {
         EXPECT_EQ(style, style::Exclamation);
@@ -75,6 +77,57 @@ class HelpTest : public testing::Test, public MessageBoxes {
         for (; *text != '\0'; ++text) QTest::keyClick(Window().windowHandle(), *text);
     }
     static void Press(Qt::Key key) { QTest::keyClick(Window().windowHandle(), key); }
+    template <class List, class Item>
+    static void Click(List* list, Item* item) {
+        list->scrollToItem(item);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualItemRect(item).center());
+    }
+    static void Click(const char* button) {
+        auto* bar = Window().findChild<QToolBar*>();
+        QTest::mouseClick(bar->widgetForAction(Part<QAction>(button)), Qt::LeftButton);
+    }
+    static void Click(int place) {
+        QTextCursor after(Page()->document());
+        after.setPosition(place);
+        Page()->setTextCursor(after);
+        after.setPosition(place + 1);
+        const QPoint letter = Page()->cursorRect(after).center() - QPoint(2, 0);
+        QTest::mouseClick(Page()->viewport(), Qt::LeftButton, {}, letter);
+    }
+
+    /// The pieces of the page's text that lead somewhere or that something leads to, with their
+    /// places in the text.
+    static std::vector<std::pair<int, QTextCharFormat>> Anchors() {
+        std::vector<std::pair<int, QTextCharFormat>> found;
+        const QTextDocument& text = *Page()->document();
+        for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+            for (auto each = block.begin(); !each.atEnd(); ++each)
+                if (each.fragment().charFormat().isAnchor())
+                    found.emplace_back(each.fragment().position(), each.fragment().charFormat());
+        return found;
+    }
+    /// Expects that the place of an address is what the window shows and marks.
+    static void ExpectShown(const QString& address) {
+        EXPECT_EQ(Topic(), address.toStdString());
+        const auto* marked = Part<QTreeWidget>("HelpContents")->currentItem();
+        EXPECT_EQ(marked->text(0), Page()->documentTitle());
+        if (!address.contains('#')) return;
+        for (const auto& [place, format] : Anchors()) {
+            if (!format.anchorNames().contains(address.section('#', 1))) continue;
+            QTextCursor there(Page()->document());
+            there.setPosition(place);
+            EXPECT_TRUE(Page()->viewport()->rect().contains(Page()->cursorRect(there).center()));
+            return;
+        }
+        ADD_FAILURE() << "no such place";
+    }
+    /// The lines of a source of the help.
+    static QStringList Lines(const char* name) {
+        const QString text =
+            QString::fromUtf8(ReadBytes(CORVANDA_FUENTES "/ayuda/" + QString(name)));
+        return text.split('\n', Qt::SkipEmptyParts);
+    }
 
     const QTemporaryDir folder;
     std::string of = QFileInfo(built_help).path().toStdString();
@@ -82,7 +135,7 @@ class HelpTest : public testing::Test, public MessageBoxes {
     std::optional<QtHelpViewer> viewer{std::in_place, *this, of, "Corvanda"};
 };
 
-TEST_F(HelpTest, a_file_that_is_not_as_it_should_be_is_named_in_one_box) {
+TEST_F(Help, A_File_That_Is_Not_As_It_Should_Be_Is_Named_In_One_Box) {
     of = folder.path().toStdString();
     viewer.emplace(*this, of, "Corvanda");
     Ask(help::Contents);
@@ -108,7 +161,7 @@ TEST_F(HelpTest, a_file_that_is_not_as_it_should_be_is_named_in_one_box) {
     EXPECT_TRUE(said.empty() && Windows().size() == 1) << "it opens as soon as it is good";
 }
 
-TEST_F(HelpTest, each_request_shows_its_page_in_the_same_window) {
+TEST_F(Help, Each_Request_Shows_Its_Page_In_The_Same_Window) {
     const struct {
         Integer command, context;
         const char* topic;
@@ -131,7 +184,71 @@ TEST_F(HelpTest, each_request_shows_its_page_in_the_same_window) {
     EXPECT_TRUE(Window().isVisible() && !Window().isMinimized());
 }
 
-TEST_F(HelpTest, the_filter_narrows_the_keywords_and_they_open_their_pages) {
+TEST_F(Help, Every_Entry_Of_The_Contents_Opens_Its_Page_And_None_Is_Without_Entry) {
+    Ask(help::Contents);
+    const QStringList topics = Lines("contents.txt");
+    EXPECT_EQ(topics.size(), QDir(CORVANDA_FUENTES "/ayuda", "*.html").entryList().size());
+    auto* tree = Part<QTreeWidget>("HelpContents");
+    QTreeWidgetItemIterator item(tree);
+    for (const QString& topic : topics) {
+        SCOPED_TRACE(topic.toStdString());
+        ASSERT_NE(*item, nullptr);
+        Page()->Show(topics.front());
+        Click(tree, *item);
+        ExpectShown(topic.trimmed());
+        EXPECT_EQ((*item)->text(0), Page()->documentTitle());
+        ++item;
+    }
+    EXPECT_EQ(*item, nullptr);
+}
+
+TEST_F(Help, Every_Link_Shows_What_It_Names_And_The_Buttons_Lead_Back_And_On) {
+    Ask(help::Contents);
+    Click("HelpBack");
+    ExpectShown("welcome.html");
+    int links = 0;
+    for (const QString& topic : Lines("contents.txt")) {
+        const QString page = topic.trimmed();
+        const int before = links;
+        Page()->Show(page);
+        for (const auto& [place, format] : Anchors()) {
+            QString address = format.anchorHref();
+            if (address.isEmpty()) continue;
+            SCOPED_TRACE((page + " to " + address).toStdString());
+            if (address.startsWith('#')) address.prepend(page);
+            Click(place);
+            ExpectShown(address);
+            Click("HelpBack");
+            ExpectShown(page);
+            ++links;
+        }
+        if (links == before) continue;  // not every page leads on
+        Click("HelpForward");
+        EXPECT_NE(Topic(), page.toStdString());
+        Click("HelpHome");
+        ExpectShown("welcome.html");
+    }
+    EXPECT_GT(links, 50);
+}
+
+TEST_F(Help, Every_Keyword_Opens_Its_Place_And_Contents_Leads_Away_From_The_Index) {
+    Ask(help::Key);
+    auto* list = Part<QListWidget>("HelpKeywords");
+    const QStringList keywords = Lines("keywords.txt");
+    EXPECT_EQ(list->count(), keywords.size());
+    for (const QString& line : keywords) {
+        SCOPED_TRACE(line.toStdString());
+        const auto found = list->findItems(line.section(" = ", 0, 0), Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1);
+        Click(list, found.front());
+        ExpectShown(line.section(" = ", 1));
+    }
+    Click("HelpHome");
+    ExpectShown("welcome.html");
+    EXPECT_EQ(Part<QTabWidget>("HelpTabs")->currentIndex(), 0);
+}
+
+TEST_F(Help, The_Filter_Narrows_The_Keywords_And_They_Open_Their_Pages) {
     Ask(help::Key);
     Type("larger");
     EXPECT_EQ(Shown(), "bearing off, larger die;larger die");
@@ -148,7 +265,7 @@ TEST_F(HelpTest, the_filter_narrows_the_keywords_and_they_open_their_pages) {
     EXPECT_TRUE(Windows().empty()) << "a window goes with its viewer";
 }
 
-TEST_F(HelpTest, links_stay_inside_the_help) {
+TEST_F(Help, Links_Stay_Inside_The_Help) {
     Ask(help::Context, 0);
     for (const auto key : {Qt::Key_Tab, Qt::Key_Return}) Press(key);
     EXPECT_EQ(Topic(), "aim.html") << "the first link of the welcome page, by key";
@@ -159,7 +276,7 @@ TEST_F(HelpTest, links_stay_inside_the_help) {
     }
 }
 
-TEST_F(HelpTest, every_entry_of_the_contents_can_be_read_whatever_the_font) {
+TEST_F(Help, Every_Entry_Of_The_Contents_Can_Be_Read_Whatever_The_Font) {
     const QFont usual = QApplication::font();
     for (const int points : {9, 24, 60}) {
         QApplication::setFont(QFont(usual.family(), points));
@@ -177,7 +294,7 @@ TEST_F(HelpTest, every_entry_of_the_contents_can_be_read_whatever_the_font) {
     QApplication::setFont(usual);
 }
 
-TEST_F(HelpTest, lines_grow_no_longer_than_can_be_read_and_words_stay_whole) {
+TEST_F(Help, Lines_Grow_No_Longer_Than_Can_Be_Read_And_Words_Stay_Whole) {
     Ask(help::Context, 0);
     for (const auto& [window, most] : {std::pair(QSize(2000, 700), 900), {QSize(400, 700), 400}}) {
         Window().resize(window);
@@ -187,7 +304,7 @@ TEST_F(HelpTest, lines_grow_no_longer_than_can_be_read_and_words_stay_whole) {
     }
 }
 
-TEST_F(HelpTest, pictures_are_drawn_for_the_screen_they_are_on) {
+TEST_F(Help, Pictures_Are_Drawn_For_The_Screen_They_Are_On) {
     Ask(help::Context, 0);
     const auto ratio = [] {
         Window().grab();
