@@ -77,10 +77,14 @@ class Escritorio final : public MessageBoxes,
     double Rnd() override;
     void Randomize() override { diario.emplace_back("siembra"); }
     void sndPlaySound(const std::string& path) override { diario.push_back("sonido " + path); }
-    unsigned waveOutGetNumDevs() override { return dispositivos; }
+    unsigned waveOutGetNumDevs() override {
+        diario.emplace_back("cuenta dispositivos");
+        return dispositivos;
+    }
     void Beep() override { diario.emplace_back("bip"); }
     std::string GetSetting(const std::string& application, const std::string& section,
                            const std::string& key, const std::string& otherwise) override {
+        diario.push_back("lee " + key);
         const auto hallado = almacen.find({application, section, key});
         return hallado == almacen.end() ? otherwise : hallado->second;
     }

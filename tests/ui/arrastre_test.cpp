@@ -19,7 +19,7 @@ Partida Sin_Origen(Partida partida) {
     return partida;
 }
 
-TEST(Raton, a_drop_is_what_lies_in_front_under_the_pointer) {
+TEST(Raton, A_Drop_Is_What_Lies_In_Front_Under_The_Pointer) {
     constexpr int NADA = -9;  // nothing changes
     const char* inicio = "dice 5 4";
     const char* sola = "B 11x12 | C 15x1 23x2 | dice 5 4";
@@ -67,7 +67,7 @@ TEST(Raton, a_drop_is_what_lies_in_front_under_the_pointer) {
     }
 }
 
-TEST(Raton, the_top_chip_of_a_stack_follows_the_pointer_and_glides_back_when_refused) {
+TEST(Raton, The_Top_Chip_Of_A_Stack_Follows_The_Pointer_And_Glides_Back_When_Refused) {
     Ventana v;
     v.Poner("dice 5 4");
     v.escritorio.Dados({1, 2});
@@ -93,7 +93,7 @@ TEST(Raton, the_top_chip_of_a_stack_follows_the_pointer_and_glides_back_when_ref
     EXPECT_FALSE(v.Flotante().isVisible()) << "an accepted chip stands at once";
 }
 
-TEST(Raton, ends_without_effect_when_something_comes_between) {
+TEST(Raton, Ends_Without_Effect_When_Something_Comes_Between) {
     const std::pair<const char*, std::function<void(Ventana&)>> tabla[] = {
         {"Esc", [](Ventana& v) { QTest::keyClick(&v.frm, Qt::Key_Escape); }},
         {"a box",
@@ -148,7 +148,7 @@ TEST(Raton, ends_without_effect_when_something_comes_between) {
     }
 }
 
-TEST(Raton, only_the_left_button_takes_a_chip_and_drops_it) {
+TEST(Raton, Only_The_Left_Button_Takes_A_Chip_And_Drops_It) {
     Ventana v;
     v.Poner("dice 5 4");
     for (const auto boton : {Qt::RightButton, Qt::LeftButton}) {

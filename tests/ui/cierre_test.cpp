@@ -5,7 +5,27 @@
 namespace corvanda::pruebas {
 namespace {
 
-TEST(Ajustes, stored_texts_become_marks_and_speed_and_are_written_back) {
+TEST(Carga, The_Window_Is_Shown_With_Its_Chips_Before_It_Is_Dressed_And_Reads_The_Settings) {
+    Ventana v;
+    v.partida.Dobles = 3;
+    v.escritorio.En_El_Pase(1, [&v] {
+        EXPECT_TRUE(v.frm.isVisible());
+        EXPECT_EQ(v.partida.Dobles, 0);
+        EXPECT_EQ(Pila_En(v.partida, 11).Cuenta(), 5);
+        EXPECT_EQ(v.partida.Tablero[1].Shown, Picture::None);
+        QTest::keyClick(&v.frm, Qt::Key_F1);
+        v.partida.Jugando = True;
+    });
+    v.frm.Form_Load();
+    EXPECT_EQ(v.escritorio.Leer(),
+              (Diario{"siembra", "puntero reloj", "puntero normal",
+                      "ayuda " + v.escritorio.Path() + "\\corvanda.HLP 1 0", "lee Sonido",
+                      "lee Nivel", "lee Velocidad", "cuenta dispositivos"}));
+    EXPECT_EQ(v.partida.Tablero[1].Shown, v.partida.Tablero[0].Shown);
+    EXPECT_EQ(v.partida.Jugando, False);
+}
+
+TEST(Ajustes, Stored_Texts_Become_Marks_And_Speed_And_Are_Written_Back) {
     const struct {
         const char *sonido, *nivel, *velocidad;  // nullptr: not stored
         unsigned dispositivos;
@@ -49,13 +69,16 @@ class Cierre : public testing::Test {
   protected:
     void Abrir(Ventana& v, const char* posicion = "dice 5 4") {
         terminadas = 0;
-        QObject::connect(&v.frm, &FrmPrincipal::terminada, [this] { ++terminadas; });
+        QObject::connect(&v.frm, &FrmPrincipal::terminada, [this, &v] {
+            EXPECT_TRUE(v.frm.Mesa().Cerrando()) << "the game ends before that is told";
+            ++terminadas;
+        });
         v.Poner(posicion);
     }
     int terminadas = 0;
 };
 
-TEST_F(Cierre, only_a_person_is_asked_and_only_yes_saves) {
+TEST_F(Cierre, Only_A_Person_Is_Asked_And_Only_Yes_Saves) {
     const struct {
         Integer motivo, respuesta;  // 0: nobody is asked
         bool termina, guarda;
@@ -82,7 +105,7 @@ TEST_F(Cierre, only_a_person_is_asked_and_only_yes_saves) {
     }
 }
 
-TEST_F(Cierre, before_the_settings_were_read_nothing_is_saved) {
+TEST_F(Cierre, Before_The_Settings_Were_Read_Nothing_Is_Saved) {
     Ventana v;
     v.escritorio.Contestar(button::Yes);
     v.escritorio.En_El_Pase(1, [&] { v.frm.close(); });
@@ -91,7 +114,7 @@ TEST_F(Cierre, before_the_settings_were_read_nothing_is_saved) {
     EXPECT_TRUE(v.escritorio.almacen.empty());
 }
 
-TEST_F(Cierre, a_store_that_fails_gives_one_message_and_the_program_ends_once) {
+TEST_F(Cierre, A_Store_That_Fails_Gives_One_Message_And_The_Program_Ends_Once) {
     Ventana v;
     Abrir(v);
     v.escritorio.fallo_al_guardar = "The settings could not be saved.";
@@ -105,7 +128,7 @@ TEST_F(Cierre, a_store_that_fails_gives_one_message_and_the_program_ends_once) {
 }
 
 // Each window open when the wish to quit comes, by a person who says Yes or by the system.
-TEST_F(Cierre, over_every_window_is_asked_once_and_nothing_follows) {
+TEST_F(Cierre, Over_Every_Window_Is_Asked_Once_And_Nothing_Follows) {
     const std::pair<const char*, std::function<void(Ventana&)>> tabla[] = {
         {"FrmVolado", [](Ventana& v) { v.frm.mnuNew_Click(); }},
         {"Form1", [](Ventana& v) { v.frm.mnuVel_Click(); }},
@@ -137,7 +160,7 @@ TEST_F(Cierre, over_every_window_is_asked_once_and_nothing_follows) {
     }
 }
 
-TEST_F(Cierre, in_a_roll_and_in_the_computers_pause_no_move_sound_or_box_follows) {
+TEST_F(Cierre, In_A_Roll_And_In_The_Computers_Pause_No_Move_Sound_Or_Box_Follows) {
     for (const int pase : {1, 2, 3, 4, 8, 12}) {
         Computadora computadora;
         Ventana v(Ventana::Cajas::Diario, &computadora);

@@ -31,7 +31,7 @@ std::string Vista(const QWidget& dialogo) {
 constexpr const char* EMPIEZA_BLANCA = "The player with White Chips starts";
 constexpr const char* EMPIEZA_CAFE = "The player with Brown Chips starts";
 
-TEST(Volado, between_two_people_each_press_is_one_throw) {
+TEST(Volado, Between_Two_People_Each_Press_Is_One_Throw) {
     const struct {
         std::vector<double> azares;       // the throws, then the two dice of the first roll
         std::vector<std::string> vistas;  // after each press
@@ -67,7 +67,7 @@ TEST(Volado, between_two_people_each_press_is_one_throw) {
     }
 }
 
-TEST(Volado, against_the_computer_browns_throw_follows_by_itself_and_so_after_a_tie) {
+TEST(Volado, Against_The_Computer_Browns_Throw_Follows_By_Itself_And_So_After_A_Tie) {
     Ventana v;
     v.Abrir();
     v.escritorio.Dados({4, 4, 2, 1, 1, 2});
@@ -88,7 +88,7 @@ TEST(Volado, against_the_computer_browns_throw_follows_by_itself_and_so_after_a_
     EXPECT_EQ(v.partida.Turno, BLANCA);
 }
 
-TEST(Volado, closed_before_the_decision_it_leaves_the_turn_alone) {
+TEST(Volado, Closed_Before_The_Decision_It_Leaves_The_Turn_Alone) {
     for (const int tiros : {0, 1, 2}) {
         Ventana v;
         v.Poner("turn C | dice 5 4");
@@ -105,7 +105,7 @@ TEST(Volado, closed_before_the_decision_it_leaves_the_turn_alone) {
     }
 }
 
-TEST(Velocidad, nothing_can_be_decided_before_the_chip_has_crossed_and_only_ok_changes_it) {
+TEST(Velocidad, Nothing_Can_Be_Decided_Before_The_Chip_Has_Crossed_And_Only_Ok_Changes_It) {
     const struct {
         Integer antes;
         const char* texto;

@@ -9,8 +9,10 @@
 namespace corvanda::pruebas {
 namespace {
 
-/// Notes the commands, with A for the film's name, and answers the state that the test wants.
+/// Notes the commands in the desktop's journal, with A for the film's name, and answers the state
+/// that the test wants.
 struct Cine : MediaControl {
+    explicit Cine(Diario& diario) : diario(diario) {}
     long mciSendString(const std::string& command, std::string& reply) override {
         const std::string nombre = R"("/opt/juegos de mesa/corvanda\Corvanda.avi")";
         std::string linea = command;
@@ -20,82 +22,99 @@ struct Cine : MediaControl {
         reply = command.starts_with("Status") ? estado : "";
         return 0;
     }
-    Diario Leer() { return std::exchange(diario, {}); }
 
-    Diario diario;
+    Diario& diario;
     std::string estado = "playing";
 };
 
-class AcercaTest : public testing::Test {
+class Acerca : public testing::Test {
   protected:
     FrmAbout& Mostrar() {
         acerca.reset();
         cerrada = false;
+        escritorio.Leer();
         acerca = std::make_unique<FrmAbout>(
             nullptr, veces, FrmAbout::Servicios_De_Acerca{cine, escritorio, escritorio}, Escala(),
             Carpeta_De_Imagenes(), [this] {
                 cerrada = true;
-                cine.diario.emplace_back("principal");
+                escritorio.diario.emplace_back("principal");
                 EXPECT_FALSE(acerca->isVisible());
-                EXPECT_TRUE(escritorio.reloj_de_arena);
             });
         acerca->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(acerca.get()));
-        acerca->findChild<QTimer*>("Timer1")->stop();  // the test gives the ticks
+        acerca->findChild<QTimer*>("Timer1")->stop();  // the test lets the time pass
         acerca->resize(800, 700);  // the screen of a test may be too small for the texts
         return *acerca;
+    }
+    /// Lets a time pass that is a whole number of ticks.
+    void Pasar(int milisegundos) {
+        const int latido = acerca->findChild<QTimer*>("Timer1")->interval();
+        ASSERT_EQ(milisegundos % latido, 0);
+        for (int i = 0; i < milisegundos / latido && !cerrada; ++i) acerca->Timer1_Timer();
     }
     QWidget* De(const char* nombre) const { return acerca->findChild<QWidget*>(nombre); }
 
     Escritorio escritorio;
-    Cine cine;
+    Cine cine{escritorio.diario};
     Integer veces = 0;
     bool cerrada = false;
     std::unique_ptr<FrmAbout> acerca;
 };
 
-TEST_F(AcercaTest, opens_the_film_restarts_it_when_it_stopped_and_closes_it_once) {
+TEST_F(Acerca, The_Start_Up_Screen_Plays_Its_Film_For_Three_Seconds_And_Hands_Over) {
     FrmAbout& ventana = Mostrar();
     const auto manija = std::to_string(reinterpret_cast<std::uintptr_t>(De("Picture1")));
-    EXPECT_EQ(cine.Leer(), (Diario{"Open A Wait", "Window A handle  " + manija,
-                                   "Put A destination at 0 0 200 150"}));
+    EXPECT_EQ(escritorio.Leer(),
+              (Diario{"puntero reloj", "Open A Wait", "Window A handle  " + manija,
+                      "Put A destination at 0 0 200 150", "puntero normal"}));
     EXPECT_EQ(Sin_Nombre(ventana), "");
+    Pasar(100);
+    EXPECT_EQ(escritorio.Leer(), Diario{"Status A Mode"});
     for (const char* estado : {"stopped", "Seeking", "s", "playing", "paused", " stopped", ""}) {
         const bool parada = std::toupper(estado[0]) == 'S';
         cine.estado = estado;
-        ventana.Timer1_Timer();
-        EXPECT_EQ(cine.Leer(), parada ? (Diario{"Status A Mode", "Seek A to 0", "Play A"})
-                                      : Diario{"Status A Mode"})
+        Pasar(100);
+        EXPECT_EQ(escritorio.Leer(), parada ? (Diario{"Status A Mode", "Seek A to 0", "Play A"})
+                                            : Diario{"Status A Mode"})
             << estado;
     }
-    ventana.close();
-    EXPECT_EQ(cine.Leer(), (Diario{"Close A", "principal"}));
+    Pasar(2100);
+    EXPECT_EQ(escritorio.Leer(), Diario(21, "Status A Mode"));
+    EXPECT_FALSE(cerrada);
+    Pasar(100);
+    EXPECT_EQ(escritorio.Leer(),
+              (Diario{"Status A Mode", "puntero reloj", "Close A", "principal", "puntero normal"}));
     ventana.Close_About();
     acerca.reset();
-    EXPECT_EQ(cine.Leer(), Diario{}) << "closed once, whatever comes after";
+    EXPECT_EQ(escritorio.Leer(), Diario{}) << "closed once, whatever comes after";
+    Mostrar().close();
+    EXPECT_TRUE(cerrada);
     Mostrar();
-    cine.Leer();
+    escritorio.Leer();
     acerca.reset();
-    EXPECT_EQ(cine.Leer(), Diario{"Close A"}) << "a window that is taken away shows nothing";
+    EXPECT_EQ(escritorio.Leer(), Diario{"Close A"}) << "a window that is taken away shows nothing";
 }
 
-TEST_F(AcercaTest, closes_at_exactly_the_thirtieth_tick_of_all_showings) {
-    const struct {
-        Integer antes;
-        int latidos;  // 0: not within a hundred
-        Integer despues;
-    } tabla[] = {{0, 30, 30}, {29, 1, 30}, {30, 0, 130}, {-5, 35, 30}, {32767, 0, -32669}};
-    for (const auto& fila : tabla) {
-        veces = fila.antes;
+TEST_F(Acerca, Closes_By_Itself_At_The_Thirtieth_Tick_Of_All_Showings_And_At_No_Other) {
+    Mostrar();
+    Pasar(1000);
+    acerca->Close_About();
+    Mostrar();
+    Pasar(1900);
+    EXPECT_FALSE(cerrada);
+    Pasar(100);
+    EXPECT_TRUE(cerrada);
+    for (const int antes : {30, 32767, -20}) {
+        veces = static_cast<Integer>(antes);
         Mostrar();
-        int latidos = 0;
-        for (; !cerrada && latidos < 100; ++latidos) acerca->Timer1_Timer();
-        EXPECT_EQ(cerrada ? latidos : 0, fila.latidos) << fila.antes;
-        EXPECT_EQ(veces, fila.despues);
+        Pasar(4900);
+        EXPECT_FALSE(cerrada) << antes;
+        Pasar(100);
+        EXPECT_EQ(cerrada, antes == -20) << antes;
     }
 }
 
-TEST_F(AcercaTest, a_click_that_begins_and_ends_beside_the_texts_closes_it) {
+TEST_F(Acerca, A_Click_That_Begins_And_Ends_Beside_The_Texts_Closes_It) {
     const struct {
         const char *desde, *hasta;
         bool direccion, cierra;
@@ -116,7 +135,7 @@ TEST_F(AcercaTest, a_click_that_begins_and_ends_beside_the_texts_closes_it) {
     }
 }
 
-TEST_F(AcercaTest, a_key_that_types_a_character_closes_it) {
+TEST_F(Acerca, A_Key_That_Types_A_Character_Closes_It) {
     for (const auto tecla : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_A,
                              Qt::Key_Backspace, Qt::Key_Tab}) {
         QTest::keyClick(&Mostrar(), tecla);

@@ -1,8 +1,6 @@
 // The board without a mouse.
-#include <QImage>
 #include <cstdlib>
 
-#include "demostracion/jugador.h"
 #include "tests/ui/acceso.h"
 #include "ui/lugares.h"
 
@@ -34,31 +32,6 @@ TEST(Teclado, The_First_Key_Shows_The_Frame_And_The_Others_Go_Where_The_Eye_Sees
         v.Teclas(teclas);
         EXPECT_EQ(v.teclado.Elegido(), lugar) << teclas;
     }
-}
-
-TEST(Teclado, The_Frame_Is_White_In_Black_Around_Any_Place_And_Gone_With_The_Mouse) {
-    Sin_Raton v("turn B | dice 4 2");
-    const auto foto = [&] {
-        return v.frm.grab(QRect(v.tablero.mapTo(&v.frm, QPoint()), v.tablero.size())).toImage();
-    };
-    const QImage antes = foto();
-    for (Integer lugar = 0; lugar < lugares::CUANTOS; ++lugar) {
-        v.Ir(lugar);
-        const QImage ahora = foto();
-        for (const int linea : {1, v.tablero.Medidas().Grueso() + 1}) {
-            const QRect marco =
-                v.tablero.Medidas().Area(lugar).adjusted(-linea, -linea, linea, linea);
-            const QColor color(linea == 1 ? Qt::white : Qt::black);
-            for (const QPointF esquina : {marco.topLeft(), marco.bottomRight()}) {
-                const QPoint pixel = (esquina * ahora.devicePixelRatio()).toPoint();
-                EXPECT_EQ(ahora.pixelColor(pixel), color) << lugar;
-            }
-        }
-    }
-    Con_Raton(v, QTest::MouseClick, {3, 3});
-    // Along the mitres of its corners the case lets a little of what was painted before through.
-    const QRect dentro = antes.rect().adjusted(20, 20, -20, -20);
-    EXPECT_EQ(foto().copy(dentro), antes.copy(dentro));
 }
 
 TEST(Teclado, A_Chip_Is_Taken_And_Dropped_As_The_Handlers_Have_It) {
@@ -117,28 +90,6 @@ TEST(Teclado, What_Ends_A_Drag_Of_The_Mouse_Ends_One_Of_The_Keys) {
         EXPECT_FALSE(v.tablero.Arrastrando()) << que;
         EXPECT_EQ(Pila_En(v.partida, 4).Cuenta(), 0) << que;
     }
-}
-
-TEST(Teclado, A_Game_Of_Two_People_Needs_No_Mouse) {
-    Sin_Raton v("turn B | dice 4 2");
-    v.escritorio.Sembrar(7);
-    v.escritorio.Contestar_Siempre();
-    for (int turnos = 0; v.partida.Jugando != False && turnos < 600; ++turnos) {
-        const auto [clase, origen, destino] = Elegir(v.partida);
-        if (clase == Jugada::Clase::Pasar) {
-            v.Teclas("p");
-            continue;
-        }
-        const bool blanca = v.partida.Turno == BLANCA;
-        const Integer bandeja = blanca ? BANDEJA_BLANCA : BANDEJA_CAFE;
-        v.Jugar(Es_Punto(origen) ? origen
-                : blanca         ? BARRA_BLANCA
-                                 : BARRA_CAFE,
-                clase == Jugada::Clase::Sacar ? bandeja : destino);
-    }
-    const Diario diario = v.escritorio.Leer();
-    const std::string final = diario.empty() ? "" : diario.back();
-    EXPECT_TRUE(final == GANA_BLANCA || final == GANA_CAFE) << final;
 }
 
 }  // namespace
