@@ -116,8 +116,10 @@ caso "the package" 0 "build/package/corvanda_1_all.deb" package.sh
 llamo "cpack.* at 123" "the time of the version"
 for llamada in "cmake --preset" "cmake --build" dpkg-parsechangelog cpack; do
     caso "a package without $llamada" 1 "" FALLA="$llamada" package.sh
+    [ "$(ls "$arbol/build/package")" = corvanda_0_all.deb ] || mal "the old package is gone without $llamada"
 done
 [[ $salida == *"see build/log/paquete.log" ]] || mal "nothing told of cpack"
+caso "an interrupted package" 130 "interrupted" "SENAL=INT cpack" package.sh
 [ -f "$arbol/build/package/corvanda_0_all.deb" ] || mal "the old package went before there was another"
 caso "an interrupted package" 130 "interrupted, the package is as it was" "SENAL=INT cpack" package.sh
 [ -f "$arbol/build/package/corvanda_0_all.deb" ] || mal "an interruption took the package away"
