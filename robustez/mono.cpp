@@ -97,7 +97,8 @@ void Mono::Paso() {
         if (QApplication::activeModalWidget() != caja) break;
     }
     --profundidad;
-    if (hechos < fin) return;
+    // Asked once, however deep it is: asked again, the program ends on the spot.
+    if (hechos < fin || !relojes.front().isActive()) return;
     for (QTimer& reloj : relojes) reloj.stop();
     std::raise(SIGTERM);
 }
