@@ -128,7 +128,7 @@ QByteArray SessionBus() {
 // "disabled:" is no way to reach a bus, which the toolkit sees at once. Without the session's bus
 // it does not look for the screen readers' either.
 QByteArray AccessibilityBus() {
-    const QByteArray given = qgetenv("AT_SPI_BUS_ADDRESS");
+    QByteArray given = qgetenv("AT_SPI_BUS_ADDRESS");
     const int session = Connect(SocketOf(SessionBus()));
     if (session < 0) return given;
     QByteArray found;
