@@ -99,45 +99,25 @@ TEST(Jugada, The_Last_Chip_Off_Wins_And_Leaves_The_Dice) {
 
 TEST(Arrastre, What_A_Press_Picks_Up) {
     constexpr Integer NINGUNA = 6;  // a point that no press takes a chip from
-    struct Prension {
-        const char *posicion, *ficha;
-        Diario diario;
-        Integer origen = NINGUNA;
-        Boolean jugando = True;
-    };
-    const char* const blancas = "B 0x2 11x5 18x8 | C 23x15";
-    const char* const cafes = "turn C | C 0x2 11x5 18x8 | B 23x15";
-    const char* const barra = "B 0x2 18x11 bar2 | C 12x15";
-    const char* const barra_cafe = "turn C | C 0x2 18x11 bar2 | B 12x15";
-    const Prension prensiones[] = {
-        {blancas, "B4", {"arrastra Blanca(6)"}, 11},
-        {blancas, "B7", {"arrastra Blanca(14)"}, 18},
-        {cafes, "C2", {"arrastra Cafe(6)"}, 11},
-        {blancas, "C0", {BIP, NO_ES_SU_TURNO}},
-        {cafes, "B0", {BIP, NO_ES_SU_TURNO}},
-        {blancas, "B4", {BIP, SIN_JUEGO}, NINGUNA, False},
-        {blancas, "C4", {BIP, SIN_JUEGO}, NINGUNA, False},
-        {barra, "B14", {"arrastra Blanca(14)"}, ORIGEN_BARRA_BLANCA},
-        {barra, "B13", {BIP}},
-        {barra_cafe, "C14", {"arrastra Cafe(14)"}, ORIGEN_BARRA_CAFE},
-        {barra_cafe, "C13", {BIP}},
-        {"B 0x15 | C 12x14 bar1", "B3", {"arrastra Blanca(14)"}, 0},  // the other side's bar
-        {"B 20x14 | C 12x15", "B14", {}},                             // borne off
-        {blancas, "B15", {}},
-    };
-    for (const auto& [posicion, nombre, diario, origen, jugando] : prensiones) {
-        SCOPED_TRACE(std::string(posicion) + ": " + nombre);
-        Mesa mesa(posicion);
+    const std::map<std::string, Diario> negadas = {{"", {}},
+                                                   {"beep", {BIP}},
+                                                   {"no game", {BIP, SIN_JUEGO}},
+                                                   {"not your turn", {BIP, NO_ES_SU_TURNO}}};
+    for (const auto& fila : Tabla("core/presiones.txt", 4)) {
+        SCOPED_TRACE(fila[0] + ": " + fila[1]);
+        Mesa mesa(fila[0]);
         mesa.escritorio.Contestar_Siempre();
-        mesa.partida.Jugando = jugando;
+        if (fila[2] == "no game") mesa.partida.Jugando = False;
         mesa.partida.Origen = NINGUNA;
-        const Control ficha = Nombrado(nombre);
-        EXPECT_EQ(mesa.juego.Se_Puede_Tomar(ficha), origen != NINGUNA);
+        const Control ficha = Nombrado(fila[1]);
+        const bool negada = negadas.contains(fila[2]);
+        EXPECT_EQ(mesa.juego.Se_Puede_Tomar(ficha), !negada);
         for (const Integer otro_boton : {Integer{2}, Integer{3}}) mesa.Presionar(ficha, otro_boton);
         EXPECT_EQ(mesa.partida.Origen, NINGUNA);
         mesa.Presionar(ficha);
-        EXPECT_EQ(mesa.escritorio.Leer(), diario);
-        EXPECT_EQ(mesa.partida.Origen, origen);
+        EXPECT_EQ(mesa.escritorio.Leer(),
+                  negada ? negadas.at(fila[2]) : Diario{"arrastra " + fila[2]});
+        EXPECT_EQ(mesa.partida.Origen, negada ? NINGUNA : std::stoi(fila[3]));
     }
 }
 
