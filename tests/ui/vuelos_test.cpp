@@ -1,5 +1,7 @@
 // Chips that move by themselves, as the window shows them when they set out and when they have come
 // to their place, and the pointer's shape.
+#include <QScreen>
+
 #include "desktop/reduced_motion.h"
 #include "tests/ui/ventana.h"
 
@@ -22,7 +24,11 @@ class Vuelo : public testing::Test {
     static QRect Franja(const Ventana& v) {
         return {v.raton.En_Ventana({800, 4200}), v.raton.En_Ventana({8700, 5900})};
     }
-    static QImage Abajo(Ventana& v) { return v.frm.grab(Franja(v)).toImage(); }
+    /// As it stands on the screen, which is not all painted anew.
+    static QImage Abajo(Ventana& v) {
+        QCoreApplication::processEvents();
+        return v.frm.screen()->grabWindow(v.frm.winId()).copy(Franja(v)).toImage();
+    }
     /// The middle of all that differs, pixels from the left; -1 for nothing.
     static int Medio(const QImage& una, const QImage& otra) {
         int izquierda = una.width(), derecha = -1;
