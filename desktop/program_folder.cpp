@@ -14,7 +14,7 @@ namespace {
 // The toolkit can address nothing in a folder whose name is no UTF-8. As the working folder, which
 // the game has no other use for, it needs no name.
 QString Executable() {
-    const QString name = QCoreApplication::applicationFilePath();
+    QString name = QCoreApplication::applicationFilePath();
     if (QFileInfo::exists(name)) return name;
     std::error_code unreadable;
     const auto real = std::filesystem::read_symlink("/proc/self/exe", unreadable);
