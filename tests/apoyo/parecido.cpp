@@ -31,7 +31,8 @@ QImage Mezclada(const QImage& imagen, std::initializer_list<int> lados,
 
 // A little out of focus: a line between two pixels is as dark as one on a pixel.
 QImage Suave(const QImage& imagen, QSize tamano) {
-    const QImage entera = imagen.convertToFormat(QImage::Format_RGB32).copy(QRect({}, tamano));
+    QImage entera = imagen.convertToFormat(QImage::Format_RGB32).copy(QRect({}, tamano));
+    entera.setDevicePixelRatio(1);
     return Mezclada(entera, {0, -1, 1}, {0, -1, 1});
 }
 

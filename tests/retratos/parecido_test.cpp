@@ -120,6 +120,9 @@ TEST_F(Parecido, says_where) {
     EXPECT_TRUE(diferencia.areas.front().contains(36, 36));
     EXPECT_TRUE(QRect(20, 20, 32, 32).contains(diferencia.areas.front().center()));
     EXPECT_LE(diferencia.areas.front().width(), 24);
+    QImage doble = Dibujar({.corrimiento = {0.5, 0}});
+    doble.setDevicePixelRatio(2);
+    EXPECT_TRUE(Comparar(doble, Dibujar({})).areas.empty()) << "pixels count, not ratios";
     EXPECT_FALSE(Comparar(Dibujar({}), QImage()).areas.empty()) << "nothing is approved";
 }
 
