@@ -95,6 +95,11 @@ bool WaveDevice::Play(wave::Samples samples) {
     return true;
 }
 
+void WaveDevice::Rest() {
+    if (device == 0 || SDL_GetQueuedAudioSize(device) == 0) return Close();
+    rest_at = Clock::now() + quiet;
+}
+
 void WaveDevice::Close() {
     if (!started) return;
     if (device != 0) SDL_CloseAudioDevice(device);

@@ -33,6 +33,9 @@ class WaveDevice {
     /// When the device has been quiet long enough to be closed; of meaning while it is in use.
     Clock::time_point RestAt() const { return rest_at; }
 
+    /// Closes the device, unless it lags and still has something to play: then it is asked again
+    /// after another quiet time.
+    void Rest();
     void Close();
 
   private:

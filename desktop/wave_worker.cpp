@@ -30,7 +30,7 @@ WaveWorker::Task WaveWorker::Next(const std::stop_token& stop, const WaveDevice&
 
 void WaveWorker::Do(const Task& todo, WaveDevice& device) {
     if (!todo.count && !todo.sound) {
-        device.Close();
+        device.Rest();
         return;
     }
     if (todo.count) {
