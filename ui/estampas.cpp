@@ -30,7 +30,7 @@ QImage Lienzo(QSize tamano) {
 }
 
 QImage Dibujar_O_Figurar(const QString& carpeta, const QString& nombre, QSize tamano) {
-    const QImage dibujada = Estampas::Dibujar(carpeta + '/' + nombre + ".svg", tamano);
+    QImage dibujada = Estampas::Dibujar(carpeta + '/' + nombre + ".svg", tamano);
     if (!dibujada.isNull() && !Vacio(dibujada)) return dibujada;
     QImage lienzo = Lienzo(tamano);
     QPainter pintor(&lienzo);
