@@ -104,7 +104,7 @@ TEST(Mano, Lights_What_Takes_The_Chip_And_Shows_What_Is_Refused) {
 TEST(Lugares, The_Next_Place_That_Takes_A_Chip_Lies_On_Its_Sides_Way) {
     const Lugares blancas = Lugares().set(15).set(3).set(BANDEJA_BLANCA);
     const Lugares cafes = Lugares().set(15).set(3).set(BANDEJA_CAFE);
-    const std::tuple<const Lugares&, Integer, Integer, int, Integer> tabla[] = {
+    const std::tuple<Lugares, Integer, Integer, int, Integer> tabla[] = {
         {blancas, 3, BLANCA, 1, 15},
         {blancas, 15, BLANCA, 1, BANDEJA_BLANCA},
         {blancas, BANDEJA_BLANCA, BLANCA, 1, 3},
