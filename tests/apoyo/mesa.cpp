@@ -28,10 +28,9 @@ Control Mesa::Presionar(Control ficha, Integer boton) {
 }
 
 void Mesa::Soltar(Control fuente, Control blanco) {
-    if (blanco.Nombre == Arreglo::Blanca) juego.Blanca_DragDrop(blanco.Index, fuente);
-    if (blanco.Nombre == Arreglo::Cafe) juego.Cafe_DragDrop(blanco.Index, fuente);
-    if (blanco.Nombre == Arreglo::Triangle) juego.Triangle_DragDrop(blanco.Index, fuente);
-    if (blanco.Nombre == Arreglo::Adios) juego.Adios_DragDrop(blanco.Index, fuente);
+    if (blanco.Nombre == Arreglo::Blanca) return juego.Blanca_DragDrop(blanco.Index, fuente);
+    if (blanco.Nombre == Arreglo::Cafe) return juego.Cafe_DragDrop(blanco.Index, fuente);
+    juego.DragDrop(blanco, fuente);
 }
 
 Control Mesa::Hacer(const std::string& accion) {

@@ -54,6 +54,15 @@ TEST(Jugada, A_Drop_On_A_Chip_Is_A_Drop_On_Its_Point) {
     }
 }
 
+TEST(Jugada, What_Does_Not_Exist_Is_Neither_Moved_Nor_Moved_To) {
+    Mesa mesa("B 5x15 | C 12x15 | dice 3 6");
+    mesa.juego.Poner_Origen(5);
+    const Partida antes = mesa.partida;
+    for (const auto& [ficha, destino] : {std::pair(-1, 8), {15, 8}, {14, -1}})
+        mesa.juego.Mover(BLANCA, static_cast<Integer>(ficha), static_cast<Integer>(destino));
+    EXPECT_EQ(mesa.partida, antes) << Texto(mesa.partida);
+}
+
 // The count is made before the stacks change; a right once given is not taken back.
 TEST(Jugada, The_Fifteenth_Chip_Home_Opens_The_Tray) {
     for (const auto& fila : Tabla("core/en_casa.txt", 3)) {
@@ -112,7 +121,11 @@ TEST(Arrastre, What_A_Press_Picks_Up) {
         const Control ficha = Nombrado(fila[1]);
         const bool negada = negadas.contains(fila[2]);
         EXPECT_EQ(mesa.juego.Se_Puede_Tomar(ficha), !negada);
-        for (const Integer otro_boton : {Integer{2}, Integer{3}}) mesa.Presionar(ficha, otro_boton);
+        for (const Integer otro_boton : {Integer{2}, Integer{3}}) {
+            if (ficha.Nombre == Arreglo::Blanca)
+                mesa.juego.Blanca_MouseDown(ficha.Index, otro_boton);
+            if (ficha.Nombre == Arreglo::Cafe) mesa.juego.Cafe_MouseDown(ficha.Index, otro_boton);
+        }
         EXPECT_EQ(mesa.partida.Origen, NINGUNA);
         mesa.Presionar(ficha);
         EXPECT_EQ(mesa.escritorio.Leer(),
@@ -166,6 +179,7 @@ TEST(Arrastre, The_Image_Under_A_Place) {
         {9000, 300, {}},
     };
     const Mesa mesa("B 18x6 23x7 | C 5x6 12x9 | dice 3 1");  // two white chips are off
+    EXPECT_EQ(Imagen_De(mesa.partida, {}), nullptr);
     for (const Lugar& lugar : lugares) {
         EXPECT_EQ(Control_En(mesa.partida, lugar.x, lugar.y), lugar.control)
             << lugar.x << ", " << lugar.y;
